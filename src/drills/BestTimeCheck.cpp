@@ -1,0 +1,38 @@
+#include "drills/BestTimeCheck.h"
+
+#include "core/NumberText.h"
+#include "core/Platform.h"
+#include "core/PupilProgress.h"
+
+namespace nb {
+
+void announceBestTime(Platform &platform, PupilProgress &progress, const Value *slot)
+{
+    if (!slot || !(slot->number() > 0))
+        return;
+    progress.MessageText = Value::text("Your best time is " + slot->str() + " seconds.");
+    platform.message(progress.MessageText.asText());
+}
+
+int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
+                  const std::string &timeText, int questions)
+{
+    std::string msg =
+        "You completed " + std::to_string(questions) + " questions in " + timeText + " seconds.";
+    const double t = readNumber(timeText);
+    if (slot) {
+        const double best = slot->number();
+        if (best == 0 || t < best) {
+            if (best != 0)
+                msg += " You have beaten your best time!!! ";
+            *slot = Value::real(t);
+        }
+    }
+    msg += "Do you want another go ?";
+    progress.MessageText = Value::text(msg);
+    const int reply = platform.askYesNo(msg);
+    progress.MessageReply = Value::int16(std::int16_t(reply));
+    return reply;
+}
+
+} // namespace nb

@@ -1,0 +1,10 @@
+#include "shell/AllScreens.h"
+
+namespace nb {
+
+void registerGameScreens(ScreenRegistry &registry)
+{
+    (void)registry;
+}
+
+} // namespace nb

@@ -1,0 +1,10 @@
+#include "shell/AllScreens.h"
+
+namespace nb {
+
+void registerLayoutScreens(ScreenRegistry &registry)
+{
+    (void)registry;
+}
+
+} // namespace nb

@@ -1,0 +1,135 @@
+#include "shell/mainmenu.h"
+
+#include "core/App.h"
+#include "core/Platform.h"
+#include "core/PupilProgress.h"
+
+namespace nb {
+
+namespace {
+struct Topic
+{
+    const char *button;
+    const char *spoken;
+    const char *picture;
+    const char *menu;
+};
+constexpr Topic kTopics[] = {
+    {"Command5", "Addition", "topic_add.svg", "addmenu"},
+    {"Command6", "Subtraction", "topic_sub.svg", "submenu"},
+    {"Command7", "Multiplication", "topic_mul.svg", "mulmenu"},
+    {"Command8", "Division", "topic_div.svg", "divmenu"},
+    {"Command9", "Games for two", "topic_pairs.svg", "pairmenu"},
+};
+} // namespace
+
+MainMenu::MainMenu(App &app)
+    : Screen(app)
+{
+    setSize(12000, 9000);
+    setBackColor(rgb(255, 248, 220));
+    Control &title = label("Label1", "MENU", 600, 250, 10800, 1000);
+    title.font.points = 36;
+    title.font.bold = true;
+    title.align = Align::Center;
+    title.foreColor = rgb(230, 80, 40);
+    Control &ask = label("Label2", "What would you like to do today?", 600, 1300, 10800, 600);
+    ask.font.points = 18;
+    ask.align = Align::Center;
+    ask.foreColor = rgb(40, 40, 120);
+
+    const std::uint32_t buttonColors[] = {rgb(150, 230, 150), rgb(140, 200, 255),
+                                          rgb(255, 160, 160)};
+    const char *names[] = {"Command2", "Command3", "Command1"};
+    const char *captions[] = {"NEW", "LOAD", "EXIT"};
+    for (int i = 0; i < 3; ++i) {
+        Control &b = button(names[i], captions[i], 1500 + i * 3300, 7600, 2400, 900);
+        b.font.points = 20;
+        b.font.bold = true;
+        b.backColor = buttonColors[i];
+    }
+    // Five topic pictures in two rows: three above, two centred below.
+    for (int i = 0; i < 5; ++i) {
+        const int row = i < 3 ? 0 : 1;
+        const int col = i < 3 ? i : i - 3;
+        const int left = row == 0 ? 1200 + col * 3400 : 2900 + col * 3400;
+        const int top = 2100 + row * 2700;
+        pictureButton(kTopics[i].button, kTopics[i].spoken, kTopics[i].picture, left, top, 3000,
+                      2500);
+    }
+    setFocus("Command2");
+}
+
+void MainMenu::onOpened()
+{
+    if (progress().Unsaved.equalsNumber(1)) {
+        setEnabled("Command2", false);
+        setEnabled("Command3", false);
+        for (const Topic &t : kTopics)
+            setVisible(t.button, true);
+    }
+}
+
+void MainMenu::onClick(const std::string &name, int)
+{
+    if (name == "Command2") {
+        newPupil();
+    } else if (name == "Command3") {
+        app().show("Filesystem");
+    } else if (name == "Command1") {
+        exitProgram();
+    } else {
+        for (const Topic &t : kTopics)
+            if (name == t.button)
+                handOver(t.menu);
+    }
+}
+
+void MainMenu::newPupil()
+{
+    PupilProgress &p = progress();
+    p.PupilName = Value::text("");
+    p.PupilName = Value::text(platform().inputBox("Please enter your full name.", "", ""));
+    if (p.PupilName.asText().empty()) {
+        p.Unsaved = Value::int16(0);
+        return;
+    }
+    // A new pupil starts these values afresh; the drill best times are left as they are.
+    Value PupilProgress::*const reset[] = {
+        &PupilProgress::MakeTenBest,    &PupilProgress::MakeAnyBest,
+        &PupilProgress::MakeTenSubBest, &PupilProgress::MakeAnySubBest,
+        &PupilProgress::ColumnSubBest,  &PupilProgress::MulBest,
+        &PupilProgress::Mul21Best,      &PupilProgress::Mul31Best,
+        &PupilProgress::Mul22Best,      &PupilProgress::Mul32Best,
+        &PupilProgress::MakeTenDivBest, &PupilProgress::SearchBest1,
+        &PupilProgress::SearchBest2,    &PupilProgress::SearchBest3,
+        &PupilProgress::SearchBest4,    &PupilProgress::PerfectionBest,
+        &PupilProgress::FactorBest,
+    };
+    for (Value PupilProgress::*f : reset)
+        p.*f = Value::int16(0);
+    p.DartsBest = p.FactorBest;
+    p.Unsaved = Value::int16(1);
+    setEnabled("Command2", false);
+    setEnabled("Command3", false);
+}
+
+void MainMenu::exitProgram()
+{
+    if (!progress().Unsaved.equalsNumber(1)) {
+        app().endProgram();
+        return;
+    }
+    progress().MessageText = Value::text("Do you want to save?");
+    const int reply = platform().askYesNo("Do you want to save?");
+    progress().MessageReply = Value::int16(std::int16_t(reply));
+    if (reply != kYes) {
+        app().endProgram();
+        return;
+    }
+    // Saving ends the program; until the save screen exists, Yes ends it too.
+    if (!app().show("Filesave") && !app().ended() && !app().registry().has("Filesave"))
+        app().endProgram();
+}
+
+} // namespace nb

@@ -1,0 +1,20 @@
+#pragma once
+#include "core/Screen.h"
+
+namespace nb {
+
+// The main menu: NEW takes a pupil's name, LOAD reads a record, EXIT leaves (offering to save
+// when a pupil is active), and five pictures open the topic menus.
+class MainMenu : public Screen
+{
+public:
+    explicit MainMenu(App &app);
+    void onOpened() override;
+    void onClick(const std::string &name, int index) override;
+
+private:
+    void newPupil();
+    void exitProgram();
+};
+
+} // namespace nb

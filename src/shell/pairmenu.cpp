@@ -1,0 +1,86 @@
+#include "shell/pairmenu.h"
+
+#include "core/App.h"
+#include "shell/MenuLayout.h"
+
+namespace nb {
+
+namespace {
+Control &heading(Screen &s, std::string name, std::string text, int column, int row)
+{
+    Control c;
+    c.kind = ControlKind::Label;
+    c.name = std::move(name);
+    c.caption = std::move(text);
+    c.left = MenuLayout::columnX(column);
+    c.top = row < 0 ? 1350 : MenuLayout::rowY(row) + 150;
+    c.width = MenuLayout::kButtonWidth;
+    c.height = 500;
+    c.font.points = 16;
+    c.font.bold = true;
+    c.align = Align::Center;
+    c.foreColor = rgb(40, 40, 120);
+    return s.add(std::move(c));
+}
+} // namespace
+
+PairMenu::PairMenu(App &app)
+    : TopicMenu(app)
+{
+    buildFrame("2 player games", rgb(255, 245, 200));
+    MenuLayout grid(*this);
+
+    heading(*this, "lblDarts", "Darts", 0, -1);
+    grid.button("Command8", "Trebles", 0, 0);
+    grid.button("Command9", "Doubles", 0, 1);
+    grid.button("Command11", "Quads", 0, 2);
+    addAction({"Command8", -1, false, {}, "dart"});
+    addAction({"Command9", -1, false, {}, "doubledarts"});
+    addAction({"Command11", -1, false, {}, "quaddarts"});
+
+    heading(*this, "lblSnap", "Snap", 1, -1);
+    for (int i = 0; i < 3; ++i) {
+        grid.button("snap", "Level " + std::to_string(i + 1), 1, i, i);
+        addAction({"snap", i, false,
+                   [i](PupilProgress &p) { p.SnapOption = Value::int16(std::int16_t(i + 1)); },
+                   "twoplayersnap"});
+    }
+
+    const char *searches[] = {"Add search", "Subtract search", "Times search", "Divide search"};
+    for (int i = 0; i < 4; ++i) {
+        const std::string name = "Command" + std::to_string(i + 1);
+        grid.button(name, searches[i], 2, i);
+        addAction({name, -1, false,
+                   [i](PupilProgress &p) { p.SearchCaller = Value::int16(std::int16_t(i + 1)); },
+                   "search2"});
+    }
+
+    // Four in a row: pick a level (stays here), then a board picture to start the game.
+    heading(*this, "lblFourRow", "Four in a row", 0, 3).width = 2 * MenuLayout::kColumnStep;
+    for (int i = 0; i < 3; ++i) {
+        Control &lev = grid.button("fourlev", "LEVEL " + std::to_string(i + 1), i, 4, i);
+        lev.top -= 150;
+        lev.height = 600;
+        addAction({"fourlev",
+                   i,
+                   false,
+                   [i](PupilProgress &p) { p.FourRowOptionB = Value::int16(std::int16_t(i + 1)); },
+                   {}});
+        pictureButton("fourinrow", "Four in a row board " + std::to_string(i + 1),
+                      "fourrow" + std::to_string(i + 1) + ".svg", MenuLayout::columnX(i),
+                      MenuLayout::rowY(5) - 200, MenuLayout::kButtonWidth, 1150, i);
+        addAction({"fourinrow", i, false,
+                   [i](PupilProgress &p) { p.FourRowOptionA = Value::int16(std::int16_t(i + 1)); },
+                   "twoplayerfourinarow"});
+    }
+}
+
+void PairMenu::exitMenu()
+{
+    // Kept as the program has always done it: the main menu is shown and the addition menu is
+    // closed, so this menu stays open behind the main menu.
+    app().show("mainmenu");
+    app().close("addmenu");
+}
+
+} // namespace nb

@@ -1,0 +1,162 @@
+// The start-up path, the main menu and the topic menus, as a pupil uses them.
+#include "support/Driver.h"
+
+#include <gtest/gtest.h>
+
+namespace nb::test {
+namespace {
+
+class Shell : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        d.open("cover");
+        d.click("Command1");
+    }
+    void newPupil(const std::string &name = "Ann Smith")
+    {
+        d.platform.queueInput(name);
+        d.click("Command2");
+    }
+    Driver d;
+};
+
+TEST_F(Shell, CoverHandsOverToTheMainMenu)
+{
+    EXPECT_EQ(d.frontName(), "mainmenu");
+    EXPECT_FALSE(d.isOpen("cover"));
+    EXPECT_EQ(d.caption("Label2"), "What would you like to do today?");
+}
+
+TEST_F(Shell, ExitWithNoPupilEndsAtOnce)
+{
+    d.click("Command1");
+    EXPECT_TRUE(d.app.ended());
+    EXPECT_TRUE(d.platform.shown.empty());
+}
+
+TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
+{
+    d.progress().AddBestNormal1 = Value::real(41);
+    d.progress().FactorBest = Value::int16(7);
+    d.progress().DartsBest = Value::int16(3);
+    newPupil("Zoë Ångström");
+    ASSERT_EQ(d.platform.shown.size(), 1u);
+    EXPECT_EQ(d.platform.shown[0].text, "Please enter your full name.");
+    EXPECT_EQ(d.progress().PupilName.str(), "Zoë Ångström");
+    EXPECT_EQ(d.progress().FactorBest.tag(), ValueTag::Int16);
+    EXPECT_TRUE(d.progress().FactorBest.equalsNumber(0));
+    EXPECT_EQ(d.progress().DartsBest.tag(), ValueTag::Int16);
+    EXPECT_TRUE(d.progress().DartsBest.equalsNumber(0));
+    EXPECT_EQ(d.progress().AddBestNormal1.number(), 41) << "drill best times survive NEW";
+    EXPECT_TRUE(d.progress().MakeTenBestNeg.isEmpty());
+    EXPECT_TRUE(d.progress().Unsaved.equalsNumber(1));
+    EXPECT_FALSE(d.enabled("Command2"));
+    EXPECT_FALSE(d.enabled("Command3"));
+}
+
+TEST_F(Shell, CancelledNameLeavesNoPupil)
+{
+    newPupil("");
+    EXPECT_TRUE(d.progress().Unsaved.equalsNumber(0));
+    EXPECT_TRUE(d.enabled("Command2"));
+    d.click("Command1");
+    EXPECT_TRUE(d.app.ended());
+}
+
+TEST_F(Shell, ALongNameIsKeptWhole)
+{
+    const std::string name(1000, 'x');
+    newPupil(name);
+    EXPECT_EQ(d.progress().PupilName.str(), name);
+}
+
+TEST_F(Shell, ExitWithAPupilAsksToSaveAndNoEnds)
+{
+    newPupil();
+    d.platform.queueNo();
+    d.click("Command1");
+    EXPECT_EQ(d.platform.lastMessage(), "Do you want to save?");
+    EXPECT_TRUE(d.app.ended());
+    EXPECT_EQ(d.progress().MessageReply.whole(), kNo);
+}
+
+TEST_F(Shell, TopicButtonsOpenTheirMenusAndExitReturns)
+{
+    newPupil();
+    const std::pair<const char *, const char *> topics[] = {{"Command5", "addmenu"},
+                                                            {"Command6", "submenu"},
+                                                            {"Command7", "mulmenu"},
+                                                            {"Command8", "divmenu"}};
+    for (auto [button, menu] : topics) {
+        d.click(button);
+        EXPECT_EQ(d.frontName(), menu);
+        EXPECT_FALSE(d.isOpen("mainmenu"));
+        d.click("Command7");
+        EXPECT_EQ(d.frontName(), "mainmenu");
+        EXPECT_FALSE(d.isOpen(menu));
+        EXPECT_FALSE(d.enabled("Command2")) << "reopened menu keeps NEW disabled";
+    }
+}
+
+TEST_F(Shell, PairMenuExitLeavesTheGamesMenuOpenBehind)
+{
+    newPupil();
+    d.click("Command9");
+    d.click("Command7");
+    EXPECT_EQ(d.frontName(), "mainmenu");
+    EXPECT_TRUE(d.isOpen("pairmenu"));
+    d.click("Command9");
+    EXPECT_EQ(d.frontName(), "pairmenu");
+    EXPECT_FALSE(d.isOpen("mainmenu"));
+}
+
+TEST_F(Shell, OptionBoxesAreReadOnlyWhenAnActivityButtonIsPressed)
+{
+    newPupil();
+    d.progress().AddNegatives = Value::int16(1);
+    d.click("Command5");
+    EXPECT_EQ(d.control("equationneg").value, 1) << "ticked from the flag on opening";
+    EXPECT_EQ(d.control("equationdec").value, 0);
+    d.click("equationneg"); // untick
+    d.click("equationdec"); // tick
+    EXPECT_TRUE(d.progress().AddNegatives.equalsNumber(1)) << "a click alone writes nothing";
+    // The level and options are written by the activity buttons, whether or not the activity
+    // screen is in this build.
+    for (auto [button, level] :
+         {std::pair{"Command4", 1}, {"Command11", 2}, {"Command6", 3}, {"Command5", 4}}) {
+        if (!d.reachable(button))
+            continue;
+        d.click(button);
+        EXPECT_EQ(d.progress().AddLevel.whole(), level);
+        EXPECT_TRUE(d.progress().AddNegatives.equalsNumber(0));
+        EXPECT_TRUE(d.progress().AddDecimals.equalsNumber(1));
+        if (d.frontName() != "addmenu") {
+            d.app.close(d.front());
+            d.open("addmenu");
+        }
+    }
+}
+
+TEST_F(Shell, GroupButtonsSetTheLevelFromTheirPlace)
+{
+    newPupil();
+    d.click("Command9");
+    for (int i = 0; i < 3; ++i) {
+        d.click("fourlev", i);
+        EXPECT_EQ(d.progress().FourRowOptionB.whole(), i + 1);
+        EXPECT_EQ(d.frontName(), "pairmenu");
+    }
+}
+
+TEST_F(Shell, UnbuiltActivitiesAreDisabled)
+{
+    newPupil();
+    d.click("Command5");
+    EXPECT_EQ(d.enabled("Command9"), d.registry.has("ADD333b"));
+    EXPECT_EQ(d.enabled("Command2"), d.registry.has("ADD333"));
+}
+
+} // namespace
+} // namespace nb::test
