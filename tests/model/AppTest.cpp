@@ -1,0 +1,97 @@
+// Screen navigation: show, bring to front, close (deferred while the screen's own event runs),
+// program end.
+#include "core/App.h"
+#include "core/Screen.h"
+#include "support/FakePlatform.h"
+
+#include <gtest/gtest.h>
+
+namespace nb::test {
+namespace {
+
+int openings = 0;
+int destroyed = 0;
+
+class Probe : public Screen
+{
+public:
+    explicit Probe(App &app)
+        : Screen(app)
+    {
+        button("go", "Go", 0, 0, 100, 100);
+    }
+    ~Probe() override { ++destroyed; }
+    void onOpened() override { ++openings; }
+    void onClick(const std::string &, int) override
+    {
+        // Close itself, then keep using its own state: must still be alive until the event ends.
+        closeSelf();
+        caption("go") = "closed";
+        clicksAfterClose += caption("go") == "closed";
+        app().show("other");
+    }
+    int clicksAfterClose = 0;
+};
+
+class NavigationTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        openings = destroyed = 0;
+        registry.add<Probe>("probe", "Probe");
+        registry.add<Probe>("other", "Other");
+    }
+    FakePlatform platform;
+    ScreenRegistry registry;
+};
+
+TEST_F(NavigationTest, ShowingAnOpenScreenBringsItForwardWithoutReopening)
+{
+    App app(platform, registry);
+    Screen *a = app.show("probe");
+    app.show("other");
+    EXPECT_EQ(app.front()->name(), "other");
+    EXPECT_EQ(app.show("probe"), a);
+    EXPECT_EQ(app.front(), a);
+    EXPECT_EQ(openings, 2);
+    EXPECT_EQ(a->title(), "Probe");
+}
+
+TEST_F(NavigationTest, AScreenClosedInItsOwnHandlerIsDestroyedAfterwards)
+{
+    App app(platform, registry);
+    Screen *a = app.show("probe");
+    app.click(*a, "go");
+    EXPECT_EQ(destroyed, 1);
+    EXPECT_FALSE(app.isOpen("probe"));
+    EXPECT_EQ(app.front()->name(), "other");
+}
+
+TEST_F(NavigationTest, EventsForClosedScreensAndUnknownNamesAreIgnored)
+{
+    App app(platform, registry);
+    Screen *a = app.show("probe");
+    Screen *b = app.show("other");
+    app.close("probe");
+    app.close("probe"); // not open any more: nothing happens
+    EXPECT_EQ(app.show("nosuchscreen"), nullptr);
+    EXPECT_EQ(app.keyPress(*b, "go", -1, 'x'), 'x');
+    EXPECT_EQ(app.openScreens().size(), 1u);
+    (void)a;
+}
+
+TEST_F(NavigationTest, EndingTheProgramClosesEverythingAndStopsShowing)
+{
+    App app(platform, registry);
+    app.show("probe");
+    app.show("other");
+    app.endProgram();
+    EXPECT_TRUE(app.ended());
+    EXPECT_TRUE(app.openScreens().empty());
+    EXPECT_EQ(destroyed, 2);
+    EXPECT_EQ(app.show("probe"), nullptr);
+}
+
+} // namespace
+} // namespace nb::test
