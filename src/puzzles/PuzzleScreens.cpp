@@ -1,10 +1,11 @@
+#include "puzzles/factor.h"
 #include "shell/AllScreens.h"
 
 namespace nb {
 
 void registerPuzzleScreens(ScreenRegistry &registry)
 {
-    (void)registry;
+    registry.add<Factor>("factor", "Factor racing");
 }
 
 } // namespace nb
