@@ -1,0 +1,136 @@
+#include "ui/MainWindow.h"
+
+#include "core/Screen.h"
+#include "ui/ScreenView.h"
+
+#include <QCloseEvent>
+#include <QStackedLayout>
+
+#include <algorithm>
+
+namespace nb::ui {
+
+MainWindow::MainWindow(App &app, QWidget *parent)
+    : QWidget(parent)
+    , app_(app)
+    , stack_(new QStackedLayout(this))
+{
+    stack_->setContentsMargins(0, 0, 0, 0);
+    setWindowTitle("NUMBROOK");
+    resize(1024, 768);
+    app_.setListener(this);
+}
+
+MainWindow::~MainWindow()
+{
+    app_.setListener(nullptr);
+    for (auto &[screen, view] : views_)
+        view->detach();
+}
+
+bool MainWindow::start(std::string_view name)
+{
+    Screen *s = app_.show(name);
+    syncAll(true);
+    return s != nullptr;
+}
+
+void MainWindow::screenShown(Screen &screen)
+{
+    ScreenView *view = viewOf(screen);
+    if (!view) {
+        view = new ScreenView(*this, app_, screen);
+        views_.emplace_back(&screen, view);
+        stack_->addWidget(view);
+    }
+    showFront();
+}
+
+void MainWindow::screenClosed(Screen &screen)
+{
+    auto it = std::find_if(views_.begin(), views_.end(),
+                           [&](const auto &entry) { return entry.first == &screen; });
+    if (it != views_.end()) {
+        // The view may be inside one of its own widgets' event handlers: delete it later.
+        ScreenView *view = it->second;
+        views_.erase(it);
+        view->detach();
+        stack_->removeWidget(view);
+        view->hide();
+        view->deleteLater();
+    }
+    showFront();
+}
+
+void MainWindow::programEnded()
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            hide();
+            emit finished();
+        },
+        Qt::QueuedConnection);
+}
+
+void MainWindow::showFront()
+{
+    Screen *front = app_.front();
+    ScreenView *view = front ? viewOf(*front) : nullptr;
+    if (!view)
+        return;
+    if (stack_->currentWidget() != view) {
+        stack_->setCurrentWidget(view);
+        focusPending_ = true;
+    }
+    setWindowTitle(QString::fromStdString(front->title()));
+}
+
+void MainWindow::syncAll(bool forceFocus)
+{
+    for (Screen *s : app_.openScreens())
+        if (ScreenView *view = viewOf(*s))
+            view->sync();
+    if (ScreenView *front = frontView()) {
+        front->applyFocus(forceFocus || focusPending_);
+        focusPending_ = false;
+    }
+}
+
+void MainWindow::pauseTimers()
+{
+    if (pauseDepth_++ == 0)
+        for (auto &[screen, view] : views_)
+            view->setTimersPaused(true);
+}
+
+void MainWindow::resumeTimers()
+{
+    if (pauseDepth_ > 0 && --pauseDepth_ == 0)
+        for (auto &[screen, view] : views_)
+            view->setTimersPaused(false);
+}
+
+ScreenView *MainWindow::viewOf(const Screen &screen) const
+{
+    for (const auto &[s, view] : views_)
+        if (s == &screen)
+            return view;
+    return nullptr;
+}
+
+ScreenView *MainWindow::frontView() const
+{
+    Screen *front = app_.front();
+    return front ? viewOf(*front) : nullptr;
+}
+
+void MainWindow::closeEvent(QCloseEvent *e)
+{
+    // Closing the window ends the program, as EXIT without a pupil does: nothing is saved.
+    if (!app_.ended())
+        app_.endProgram();
+    e->accept();
+}
+
+} // namespace nb::ui

@@ -1,0 +1,65 @@
+#pragma once
+// The program's one window. It follows the App: each screen that is shown gets a view (built
+// once, kept while the screen is open), the screen in front is the view on top, and the window
+// title is the front screen's title. After every event all open views are brought up to date.
+#include "core/App.h"
+
+#include <QWidget>
+
+#include <string_view>
+#include <utility>
+#include <vector>
+
+class QStackedLayout;
+
+namespace nb::ui {
+
+class ScreenView;
+
+class MainWindow : public QWidget, public AppListener
+{
+    Q_OBJECT
+public:
+    explicit MainWindow(App &app, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    App &app() { return app_; }
+
+    // Shows a screen by name as the program's first screen; false when it could not be opened.
+    bool start(std::string_view name);
+
+    void screenShown(Screen &screen) override;
+    void screenClosed(Screen &screen) override;
+    void programEnded() override;
+
+    // Brings every open view up to date with its screen and applies the front screen's focus.
+    void syncAll(bool forceFocus = false);
+    // Called by the views after each event they passed to the App.
+    void afterEvent(bool forceFocus) { syncAll(forceFocus); }
+
+    // Screen timers stand still while a message box is open (calls nest).
+    void pauseTimers();
+    void resumeTimers();
+    bool timersPaused() const { return pauseDepth_ > 0; }
+
+    ScreenView *viewOf(const Screen &screen) const;
+    ScreenView *frontView() const;
+
+signals:
+    // The program has ended and the window has closed.
+    void finished();
+
+protected:
+    void closeEvent(QCloseEvent *e) override;
+
+private:
+    void showFront();
+
+    App &app_;
+    QStackedLayout *stack_;
+    std::vector<std::pair<const Screen *, ScreenView *>> views_;
+    int pauseDepth_ = 0;
+    bool focusPending_ = true;
+};
+
+} // namespace nb::ui

@@ -1,0 +1,67 @@
+#pragma once
+// The real platform: Qt message boxes, the system beep, the clock, the user's folders, printing.
+// Before a box opens every view is brought up to date and painted, and the screen timers stand
+// still until it is answered.
+#include "core/Platform.h"
+#include "core/Random.h"
+
+#include <functional>
+#include <string>
+
+namespace nb::ui {
+
+class MainWindow;
+
+// A box about to be shown, as an answerer sees it.
+struct BoxRequest
+{
+    enum class Kind { Message, YesNo, Input };
+    Kind kind = Kind::Message;
+    std::string text;
+    std::string title; // as shown: an empty title becomes "NUMBROOK"
+    std::string defaultText;
+    MsgIcon icon = MsgIcon::None;
+};
+
+// The reply: button (kYes or kNo) for a Yes/No box, text for an input box (empty = Cancel).
+struct BoxAnswer
+{
+    int button = kYes;
+    std::string text;
+};
+
+class QtPlatform : public Platform
+{
+public:
+    QtPlatform();
+
+    // The window whose views are synced and whose timers pause around boxes; also the boxes'
+    // parent. May be null (boxes then open on their own).
+    void setWindow(MainWindow *window) { window_ = window; }
+
+    // When set, boxes are answered by this function instead of being shown (tests, snapshots).
+    // It runs at the moment the box would open: views synced, timers paused.
+    using Answerer = std::function<BoxAnswer(const BoxRequest &)>;
+    void setAnswerer(Answerer answerer) { answerer_ = std::move(answerer); }
+
+    void beep() override;
+    void message(const std::string &text, const std::string &title, MsgIcon icon) override;
+    int askYesNo(const std::string &text, const std::string &title) override;
+    std::string inputBox(const std::string &prompt, const std::string &title,
+                         const std::string &defaultText) override;
+    double random() override { return random_.next(); }
+    std::chrono::system_clock::time_point now() override;
+    std::string documentsFolder() override;
+    std::vector<std::string> drives() override;
+    PrintOutcome printScreen(const Screen &screen, const std::string &pdfPath) override;
+
+private:
+    BoxAnswer openBox(const BoxRequest &request);
+    BoxAnswer showDialog(const BoxRequest &request);
+
+    MainWindow *window_ = nullptr;
+    Answerer answerer_;
+    UniformRandom random_;
+};
+
+} // namespace nb::ui

@@ -1,0 +1,694 @@
+#include "ui/ScreenView.h"
+
+#include "core/App.h"
+#include "core/Screen.h"
+#include "ui/ControlWidgets.h"
+#include "ui/Look.h"
+#include "ui/MainWindow.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QPainter>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTimer>
+
+#include <cmath>
+
+namespace nb::ui {
+
+namespace {
+
+// Stores now in last and says whether it differed.
+template<class T> bool changed(T &last, const T &now)
+{
+    if (last == now)
+        return false;
+    last = now;
+    return true;
+}
+
+QString qs(const std::string &s)
+{
+    return QString::fromStdString(s);
+}
+
+// Labels, pictures, shapes and lines lie under the controls a pupil types into or presses.
+bool isGraphical(ControlKind k)
+{
+    return k == ControlKind::Label || k == ControlKind::Image || k == ControlKind::Shape ||
+           k == ControlKind::Line;
+}
+
+Qt::Alignment alignmentOf(Align a)
+{
+    switch (a) {
+    case Align::Center:
+        return Qt::AlignHCenter;
+    case Align::Right:
+        return Qt::AlignRight;
+    case Align::Left:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+void setColors(QWidget &w, QPalette::ColorRole backRole, QPalette::ColorRole textRole,
+               std::uint32_t back, std::uint32_t fore, const QColor &defaultBack,
+               const QColor &defaultFore)
+{
+    QPalette pal = w.palette();
+    pal.setColor(backRole, colorOr(back, defaultBack));
+    // Disabled text keeps the style's greyed look.
+    for (QPalette::ColorGroup g : {QPalette::Active, QPalette::Inactive})
+        pal.setColor(g, textRole, colorOr(fore, defaultFore));
+    w.setPalette(pal);
+}
+
+// Captions of stock Qt buttons treat '&' as a shortcut marker; ours are plain text.
+QString plainCaption(const std::string &s)
+{
+    return qs(s).replace('&', "&&");
+}
+
+} // namespace
+
+ScreenView::ScreenView(MainWindow &window, App &app, Screen &screen, QWidget *parent)
+    : QWidget(parent)
+    , window_(window)
+    , app_(app)
+    , screen_(&screen)
+{
+    setObjectName(qs(screen.name()));
+    setAutoFillBackground(false);
+    paused_ = window.timersPaused();
+    sync();
+}
+
+ScreenView::~ScreenView() = default;
+
+void ScreenView::detach()
+{
+    for (Bound &b : bound_)
+        if (b.timer)
+            b.timer->stop();
+    screen_ = nullptr;
+}
+
+Control *ScreenView::liveControl(int slot)
+{
+    if (!screen_ || slot < 0 || slot >= int(bound_.size()) || !app_.isLive(*screen_))
+        return nullptr;
+    return screen_->find(bound_[std::size_t(slot)].name, bound_[std::size_t(slot)].index);
+}
+
+// ---- Building ----
+
+void ScreenView::buildNew()
+{
+    const auto &controls = screen_->controls();
+    // Screens only ever add controls; should the list ever differ from what was built, start over.
+    bool same = bound_.size() <= controls.size();
+    for (std::size_t i = 0; same && i < bound_.size(); ++i)
+        same = bound_[i].name == controls[i].name && bound_[i].index == controls[i].index &&
+               bound_[i].kind == controls[i].kind;
+    if (!same)
+        dropAll();
+    if (bound_.size() == controls.size())
+        return;
+    bound_.reserve(controls.size());
+    for (std::size_t i = bound_.size(); i < controls.size(); ++i) {
+        Bound b;
+        make(b, controls[i], int(i));
+        bound_.push_back(std::move(b));
+    }
+    restack();
+}
+
+void ScreenView::dropAll()
+{
+    for (Bound &b : bound_) {
+        delete b.widget;
+        delete b.timer;
+    }
+    bound_.clear();
+}
+
+void ScreenView::restack()
+{
+    for (Bound &b : bound_)
+        if (b.widget && isGraphical(b.kind))
+            b.widget->raise();
+    for (Bound &b : bound_)
+        if (b.widget && !isGraphical(b.kind))
+            b.widget->raise();
+}
+
+void ScreenView::make(Bound &b, const Control &c, int slot)
+{
+    b.name = c.name;
+    b.index = c.index;
+    b.kind = c.kind;
+    QWidget *w = nullptr;
+    switch (c.kind) {
+    case ControlKind::Label: {
+        auto *l = new ClickLabel(*this, slot, this);
+        l->setTextFormat(Qt::PlainText);
+        l->setWordWrap(true);
+        w = l;
+        break;
+    }
+    case ControlKind::TextBox: {
+        auto *t = new AnswerBox(*this, slot, this);
+        connect(t, &QLineEdit::textEdited, this,
+                [this, slot](const QString &text) { textEdited(slot, text); });
+        w = t;
+        break;
+    }
+    case ControlKind::Button:
+    case ControlKind::PictureButton: {
+        auto *fb = new FaceButton(this);
+        connect(fb, &QPushButton::clicked, this, [this, slot] { click(slot); });
+        w = fb;
+        break;
+    }
+    case ControlKind::CheckBox:
+    case ControlKind::OptionButton: {
+        QAbstractButton *ab = nullptr;
+        if (c.kind == ControlKind::CheckBox) {
+            ab = new QCheckBox(this);
+        } else {
+            // The model decides which options are set; Qt must not clear the others itself.
+            auto *rb = new QRadioButton(this);
+            rb->setAutoExclusive(false);
+            ab = rb;
+        }
+        connect(ab, &QAbstractButton::clicked, this, [this, slot] { click(slot); });
+        w = ab;
+        break;
+    }
+    case ControlKind::ScrollBar: {
+        auto *sb = new QScrollBar(this);
+        connect(sb, &QScrollBar::valueChanged, this, [this, slot](int v) { scrolled(slot, v); });
+        w = sb;
+        break;
+    }
+    case ControlKind::Image:
+        w = new PictureView(*this, slot, this);
+        break;
+    case ControlKind::Shape:
+        w = new ShapeView(this);
+        break;
+    case ControlKind::Line:
+        w = new LineView(this);
+        break;
+    case ControlKind::List: {
+        auto *lw = new QListWidget(this);
+        connect(lw, &QListWidget::currentRowChanged, this,
+                [this, slot](int row) { selectionChanged(slot, row); });
+        connect(lw, &QListWidget::itemDoubleClicked, this, [this, slot] { doubleClick(slot); });
+        w = lw;
+        break;
+    }
+    case ControlKind::ComboBox: {
+        auto *cb = new QComboBox(this);
+        connect(cb, &QComboBox::currentIndexChanged, this,
+                [this, slot](int row) { selectionChanged(slot, row); });
+        w = cb;
+        break;
+    }
+    case ControlKind::Canvas:
+        w = new CanvasView(*this, slot, this);
+        break;
+    case ControlKind::Timer:
+        b.timer = new QTimer(this);
+        b.timer->setObjectName(qs(c.id()));
+        connect(b.timer, &QTimer::timeout, this, [this, slot] { timerFired(slot); });
+        return;
+    }
+    if (isGraphical(c.kind) || c.kind == ControlKind::Canvas)
+        w->setFocusPolicy(Qt::NoFocus);
+    w->setObjectName(qs(c.id()));
+    if (testIdsWanted())
+        w->setAccessibleDescription(qs(c.id()));
+    b.widget = w;
+}
+
+// ---- Keeping widgets in step ----
+
+void ScreenView::sync()
+{
+    if (!screen_)
+        return;
+    buildNew();
+    if (designWidth_ != screen_->width() || designHeight_ != screen_->height()) {
+        designWidth_ = screen_->width();
+        designHeight_ = screen_->height();
+        computeScale();
+        relayout_ = true;
+    }
+    bool repaint = changed(backColor_, screen_->backColor());
+    repaint |= changed(backPicture_, screen_->backPicture());
+    if (repaint || relayout_)
+        update();
+    const auto &controls = screen_->controls();
+    for (std::size_t i = 0; i < bound_.size(); ++i)
+        apply(bound_[i], controls[i], relayout_);
+    relayout_ = false;
+}
+
+void ScreenView::apply(Bound &b, const Control &c, bool relayout)
+{
+    if (b.timer)
+        return syncTimer(b, c);
+    Control &l = b.last;
+    const bool fresh = b.fresh;
+    b.fresh = false;
+
+    bool geometry = fresh || relayout;
+    geometry |= changed(l.left, c.left);
+    geometry |= changed(l.top, c.top);
+    geometry |= changed(l.width, c.width);
+    geometry |= changed(l.height, c.height);
+    geometry |= changed(l.x2, c.x2);
+    geometry |= changed(l.y2, c.y2);
+    geometry |= changed(l.lineWidth, c.lineWidth);
+    bool font = fresh || relayout;
+    font |= changed(l.font.family, c.font.family);
+    font |= changed(l.font.points, c.font.points);
+    font |= changed(l.font.bold, c.font.bold);
+    bool colors = fresh;
+    colors |= changed(l.backColor, c.backColor);
+    colors |= changed(l.foreColor, c.foreColor);
+    const bool text = changed(l.caption, c.caption) || fresh;
+    bool look = fresh;
+    look |= changed(l.align, c.align);
+    look |= changed(l.border, c.border);
+    look |= changed(l.shape, c.shape);
+    const bool picture = changed(l.picture, c.picture) || fresh;
+    const bool spoken = changed(l.spokenName, c.spokenName) || fresh;
+    bool range = fresh;
+    range |= changed(l.minimum, c.minimum);
+    range |= changed(l.maximum, c.maximum);
+    const bool value = changed(l.value, c.value) || fresh;
+    const bool items = changed(l.items, c.items) || fresh;
+    const bool row = changed(l.listIndex, c.listIndex) || items;
+
+    QWidget *w = b.widget;
+    if (geometry)
+        place(b, c);
+    if (font)
+        w->setFont(makeFont(c.font, scale_));
+    if (changed(l.visible, c.visible) || fresh)
+        w->setVisible(c.visible);
+    if (changed(l.enabled, c.enabled) || fresh)
+        w->setEnabled(c.enabled);
+
+    switch (c.kind) {
+    case ControlKind::Label: {
+        auto *lab = static_cast<QLabel *>(w);
+        if (text) {
+            lab->setText(qs(c.caption));
+            lab->setAccessibleName(qs(c.caption));
+        }
+        if (colors) {
+            setColors(*lab, QPalette::Window, QPalette::WindowText, c.backColor, c.foreColor,
+                      Qt::transparent, Qt::black);
+            lab->setAutoFillBackground(hasColor(c.backColor));
+        }
+        if (look) {
+            lab->setAlignment(alignmentOf(c.align) | Qt::AlignTop);
+            lab->setFrameShape(c.border ? QFrame::Box : QFrame::NoFrame);
+        }
+        break;
+    }
+    case ControlKind::TextBox: {
+        auto *box = static_cast<AnswerBox *>(w);
+        const QString t = qs(c.caption);
+        if (text && box->text() != t) {
+            // Keep the cursor where the pupil left it unless it was at the end.
+            const int pos = box->cursorPosition();
+            const bool atEnd = pos == box->text().size();
+            box->setText(t);
+            if (!atEnd)
+                box->setCursorPosition(std::min(pos, int(t.size())));
+        }
+        if (spoken)
+            box->setAccessibleName(qs(c.spokenName.empty() ? c.name : c.spokenName));
+        if (colors)
+            setColors(*box, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
+                      Qt::black);
+        if (look)
+            box->setAlignment(alignmentOf(c.align) | Qt::AlignVCenter);
+        if (changed(l.maxLength, c.maxLength) || fresh)
+            box->setMaxLength(c.maxLength > 0 ? c.maxLength : 32767);
+        break;
+    }
+    case ControlKind::Button:
+    case ControlKind::PictureButton: {
+        auto *fb = static_cast<FaceButton *>(w);
+        if (text) {
+            fb->setCaption(qs(c.caption));
+            fb->setAccessibleName(qs(c.caption));
+        }
+        if (colors)
+            fb->setFace(c.backColor, c.foreColor);
+        if (picture && c.kind == ControlKind::PictureButton)
+            fb->setPicture(c.picture);
+        break;
+    }
+    case ControlKind::CheckBox:
+    case ControlKind::OptionButton: {
+        auto *ab = static_cast<QAbstractButton *>(w);
+        if (text) {
+            ab->setText(plainCaption(c.caption));
+            ab->setAccessibleName(qs(c.caption));
+        }
+        if (value && ab->isChecked() != (c.value != 0)) {
+            const QSignalBlocker quiet(ab);
+            ab->setChecked(c.value != 0);
+        }
+        if (colors) {
+            setColors(*ab, QPalette::Window, QPalette::WindowText, c.backColor, c.foreColor,
+                      Qt::transparent, Qt::black);
+            ab->setAutoFillBackground(hasColor(c.backColor));
+        }
+        break;
+    }
+    case ControlKind::ScrollBar: {
+        auto *sb = static_cast<QScrollBar *>(w);
+        const QSignalBlocker quiet(sb);
+        if (range) {
+            sb->setRange(c.minimum, c.maximum);
+            sb->setPageStep(std::max(1, std::abs(c.maximum - c.minimum) / 10));
+        }
+        if ((value || range) && sb->value() != c.value)
+            sb->setValue(c.value);
+        break;
+    }
+    case ControlKind::Image:
+        if (picture)
+            static_cast<PictureView *>(w)->setPicture(c.picture);
+        break;
+    case ControlKind::Shape:
+        if (colors || look || geometry)
+            static_cast<ShapeView *>(w)->setShape(
+                c.shape, c.backColor, c.foreColor,
+                std::max(1.0, c.lineWidth * scale_ / kTwipsPerPixel));
+        break;
+    case ControlKind::Line:
+        if (colors && !geometry)
+            place(b, c);
+        break;
+    case ControlKind::List: {
+        auto *lw = static_cast<QListWidget *>(w);
+        const QSignalBlocker quiet(lw);
+        if (items) {
+            lw->clear();
+            for (const std::string &s : c.items)
+                lw->addItem(qs(s));
+        }
+        if (row && lw->currentRow() != c.listIndex)
+            lw->setCurrentRow(c.listIndex);
+        if (colors)
+            setColors(*lw, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
+                      Qt::black);
+        break;
+    }
+    case ControlKind::ComboBox: {
+        auto *cb = static_cast<QComboBox *>(w);
+        const QSignalBlocker quiet(cb);
+        if (items) {
+            cb->clear();
+            for (const std::string &s : c.items)
+                cb->addItem(qs(s));
+        }
+        if (row && cb->currentIndex() != c.listIndex)
+            cb->setCurrentIndex(c.listIndex);
+        if (colors)
+            setColors(*cb, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
+                      Qt::black);
+        break;
+    }
+    case ControlKind::Canvas: {
+        auto *cv = static_cast<CanvasView *>(w);
+        cv->setDrawing(c.drawing);
+        cv->setLook(c.backColor, c.border, scale_ / kTwipsPerPixel);
+        break;
+    }
+    case ControlKind::Timer:
+        break;
+    }
+}
+
+void ScreenView::place(Bound &b, const Control &c)
+{
+    QWidget *w = b.widget;
+    if (c.kind != ControlKind::Line) {
+        w->setGeometry(toPixels(c.left, c.top, c.width, c.height));
+        if (c.kind == ControlKind::ScrollBar)
+            static_cast<QScrollBar *>(w)->setOrientation(c.width >= c.height ? Qt::Horizontal
+                                                                             : Qt::Vertical);
+        return;
+    }
+    // A line's widget is the box around both ends, with room for the pen.
+    const double k = scale_ / kTwipsPerPixel;
+    const double pen = std::max(1.0, c.lineWidth * k);
+    const QPointF a = origin_ + QPointF(c.left * k, c.top * k);
+    const QPointF z = origin_ + QPointF(c.x2 * k, c.y2 * k);
+    const int margin = int(std::ceil(pen / 2)) + 1;
+    const QRect box =
+        QRectF(a, z).normalized().toAlignedRect().adjusted(-margin, -margin, margin, margin);
+    w->setGeometry(box);
+    static_cast<LineView *>(w)->setLine(a - box.topLeft(), z - box.topLeft(), c.foreColor, pen);
+}
+
+void ScreenView::syncTimer(Bound &b, const Control &c)
+{
+    if (changed(b.last.interval, c.interval) || b.fresh)
+        b.timer->setInterval(std::max(1, c.interval));
+    b.fresh = false;
+    const bool run = screen_ && !paused_ && c.timerOn && c.interval > 0;
+    if (run && !b.timer->isActive())
+        b.timer->start();
+    else if (!run && b.timer->isActive())
+        b.timer->stop();
+}
+
+void ScreenView::setTimersPaused(bool paused)
+{
+    paused_ = paused;
+    if (!screen_)
+        return;
+    const auto &controls = screen_->controls();
+    for (std::size_t i = 0; i < bound_.size() && i < controls.size(); ++i)
+        if (bound_[i].timer)
+            syncTimer(bound_[i], controls[i]);
+}
+
+void ScreenView::applyFocus(bool force)
+{
+    if (!screen_)
+        return;
+    const std::string &name = screen_->focusName();
+    const int index = screen_->focusIndex();
+    if (!force && focusDone_ && name == focusName_ && index == focusIndex_)
+        return;
+    focusName_ = name;
+    focusIndex_ = index;
+    focusDone_ = false;
+    if (name.empty())
+        return;
+    QWidget *w = widgetFor(name, index);
+    if (w && w->isVisibleTo(this) && w->isEnabled()) {
+        w->setFocus(Qt::OtherFocusReason);
+        focusDone_ = true;
+    }
+}
+
+// ---- Scaling ----
+
+void ScreenView::computeScale()
+{
+    const double dw = std::max(1, designWidth_) / kTwipsPerPixel;
+    const double dh = std::max(1, designHeight_) / kTwipsPerPixel;
+    scale_ = std::max(0.05, std::min(width() / dw, height() / dh));
+    origin_ = QPointF((width() - dw * scale_) / 2, (height() - dh * scale_) / 2);
+}
+
+QRect ScreenView::toPixels(double left, double top, double width, double height) const
+{
+    // Both edges are rounded, so controls that touch in the layout still touch on screen.
+    const double k = scale_ / kTwipsPerPixel;
+    const int x0 = int(std::lround(origin_.x() + left * k));
+    const int y0 = int(std::lround(origin_.y() + top * k));
+    const int x1 = int(std::lround(origin_.x() + (left + width) * k));
+    const int y1 = int(std::lround(origin_.y() + (top + height) * k));
+    return QRect(x0, y0, std::max(0, x1 - x0), std::max(0, y1 - y0));
+}
+
+QRect ScreenView::designRect() const
+{
+    return toPixels(0, 0, designWidth_, designHeight_);
+}
+
+void ScreenView::resizeEvent(QResizeEvent *)
+{
+    computeScale();
+    relayout_ = true;
+    sync();
+}
+
+void ScreenView::paintEvent(QPaintEvent *)
+{
+    QPainter p(this);
+    p.fillRect(rect(), colorOr(backColor_, palette().color(QPalette::Window)));
+    if (!backPicture_.empty())
+        backCache_.paint(p, backPicture_, QRectF(designRect()));
+}
+
+QPixmap ScreenView::snapshot()
+{
+    return grab(designRect());
+}
+
+QWidget *ScreenView::widgetFor(std::string_view name, int index) const
+{
+    for (const Bound &b : bound_)
+        if (b.widget && b.index == index && b.name == name)
+            return b.widget;
+    return nullptr;
+}
+
+QTimer *ScreenView::timerFor(std::string_view name) const
+{
+    for (const Bound &b : bound_)
+        if (b.timer && b.name == name)
+            return b.timer;
+    return nullptr;
+}
+
+// ---- Events ----
+
+void ScreenView::click(int slot)
+{
+    Control *c = liveControl(slot);
+    if (!c || !c->visible || !c->enabled)
+        return;
+    if (c->kind == ControlKind::CheckBox)
+        c->value = c->value ? 0 : 1;
+    else if (c->kind == ControlKind::OptionButton)
+        c->value = 1;
+    const std::string name = c->name;
+    app_.click(*screen_, name, c->index);
+    window_.afterEvent(true);
+}
+
+void ScreenView::doubleClick(int slot)
+{
+    Control *c = liveControl(slot);
+    if (!c || !c->visible || !c->enabled)
+        return;
+    const std::string name = c->name;
+    app_.doubleClick(*screen_, name, c->index);
+    window_.afterEvent(true);
+}
+
+void ScreenView::mouseDown(int slot, QPointF pixels)
+{
+    Control *c = liveControl(slot);
+    if (!c || !c->visible || !c->enabled)
+        return;
+    const double twips = kTwipsPerPixel / scale_;
+    const std::string name = c->name;
+    app_.mouseDown(*screen_, name, c->index, pixels.x() * twips, pixels.y() * twips);
+    window_.afterEvent(true);
+}
+
+void ScreenView::typeKey(int slot, AnswerBox &box, QKeyEvent *e, int code)
+{
+    Control *c = liveControl(slot);
+    if (!c)
+        return;
+    // The model sees the box as it stands before the key.
+    c->caption = box.text().toStdString();
+    Screen &s = *screen_;
+    const std::string name = c->name;
+    const int index = c->index;
+    const int k = app_.keyPress(s, name, index, code);
+    window_.afterEvent(false);
+    if (k == 0 || !screen_ || !app_.isLive(s))
+        return;
+    c = s.find(name, index);
+    if (!c || c->kind != ControlKind::TextBox)
+        return;
+    // Apply the key the model let through to the box as the model left it.
+    const QString before = box.text();
+    applyingKey_ = true;
+    if (k == code) {
+        box.applyKey(e);
+    } else if (k == 8) {
+        box.backspace();
+    } else if (k >= 32 && k != 127) {
+        const char32_t ch = char32_t(k);
+        box.insert(QString::fromUcs4(&ch, 1));
+    }
+    applyingKey_ = false;
+    if (box.text() == before)
+        return;
+    c->caption = box.text().toStdString();
+    app_.change(s, name, index);
+    window_.afterEvent(false);
+}
+
+void ScreenView::textEdited(int slot, const QString &text)
+{
+    if (applyingKey_)
+        return;
+    Control *c = liveControl(slot);
+    if (!c)
+        return;
+    std::string t = text.toStdString();
+    if (t == c->caption)
+        return;
+    c->caption = std::move(t);
+    const std::string name = c->name;
+    app_.change(*screen_, name, c->index);
+    window_.afterEvent(false);
+}
+
+void ScreenView::selectionChanged(int slot, int row)
+{
+    Control *c = liveControl(slot);
+    if (!c || c->listIndex == row)
+        return;
+    c->listIndex = row;
+    const std::string name = c->name;
+    app_.change(*screen_, name, c->index);
+    window_.afterEvent(false);
+}
+
+void ScreenView::scrolled(int slot, int value)
+{
+    Control *c = liveControl(slot);
+    if (!c || c->value == value)
+        return;
+    c->value = value;
+    const std::string name = c->name;
+    app_.change(*screen_, name, c->index);
+    window_.afterEvent(false);
+}
+
+void ScreenView::timerFired(int slot)
+{
+    Control *c = liveControl(slot);
+    if (!c || paused_)
+        return;
+    const std::string name = c->name;
+    app_.timerTick(*screen_, name);
+    window_.afterEvent(false);
+}
+
+} // namespace nb::ui
