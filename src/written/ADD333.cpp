@@ -1,0 +1,71 @@
+#include "written/ADD333.h"
+
+#include "core/NumberText.h"
+
+namespace nb {
+
+namespace {
+// The digit labels in drawing order: each number's hundreds, tens and units.
+constexpr const char *kDigitLabels[9] = {"text1", "text3",  "Text5",  "text10", "text4",
+                                         "text2", "text20", "text19", "text18"};
+constexpr int kSignColumn = 1, kThousands = 2, kHundreds = 3, kTens = 4, kUnits = 5;
+constexpr int kAnswerRow = 4, kCarryRow = 5;
+} // namespace
+
+Add333::Add333(App &app)
+    : CarryMethod(app, &PupilProgress::ColumnAddBest, "addmenu")
+{
+    headings(kThousands, 0, {"Th", "H", "T", "U"});
+    for (int i = 0; i < 9; ++i)
+        digitLabel(kDigitLabels[i], kHundreds + i % 3, 1 + i / 3);
+    signLabel("+", kSignColumn, 3);
+    rules(kAnswerRow, kSignColumn, kUnits, true);
+    answerBox("Text14", "thousands", kThousands, kAnswerRow);
+    answerBox("Text13", "hundreds", kHundreds, kAnswerRow);
+    answerBox("Text12", "tens", kTens, kAnswerRow);
+    answerBox("Text11", "units", kUnits, kAnswerRow);
+    carryBox("Text16", "carry into the hundreds", kHundreds, kCarryRow);
+    carryBox("Text15", "carry into the tens", kTens, kCarryRow);
+}
+
+void Add333::newQuestion()
+{
+    for (int i = 0; i < 9; ++i) {
+        // A number's hundreds digit is 1 to 9, its tens and units 0 to 9.
+        digits_[i] = i % 3 == 0 ? int(draw() * 9 + 1) : int(draw() * 10);
+        caption(kDigitLabels[i]) = numberText(digits_[i]);
+    }
+    const auto column = [this](int place) {
+        return digits_[place] + digits_[3 + place] + digits_[6 + place];
+    };
+    total_ = column(0) * 100 + column(1) * 10 + column(2);
+    answerWidth_ = total_ <= 999 ? 3 : 4;
+    beginQuestion(column(2), column(1), column(0));
+}
+
+double Add333::keyReference(const std::string &box)
+{
+    // The units box takes its reference from the first number's units digit, not from its own
+    // text: where that digit is 0 the units box accepts untidy text such as "07" as 7. Kept as
+    // this screen's behaviour.
+    if (box == "Text11")
+        return readNumber(caption("Text5"));
+    return CarryMethod::keyReference(box);
+}
+
+void Add333::finishExercise()
+{
+    stopExercise();
+    std::string message = "You completed 5 questions in " + timeText() + " seconds.";
+    // This screen's own rule, kept on purpose: once a best time exists every run counts as
+    // beating it, and the best is always replaced by this run's time, faster or not.
+    Value &best = bestTime();
+    if (best.number() >= 0) {
+        if (best.number() != 0)
+            message += " You have beaten your best time!!! ";
+        best = Value::real(readNumber(timeText()));
+    }
+    askAnotherGo(std::move(message));
+}
+
+} // namespace nb

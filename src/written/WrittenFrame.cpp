@@ -1,0 +1,281 @@
+#include "written/WrittenFrame.h"
+
+#include "core/NumberText.h"
+#include "core/Platform.h"
+#include "drills/BestTimeCheck.h"
+#include "written/AnswerBoxFilter.h"
+#include "written/PraiseList.h"
+
+#include <algorithm>
+
+namespace nb {
+
+namespace {
+constexpr std::uint32_t kDesk = rgb(255, 248, 225);
+constexpr std::uint32_t kPaper = rgb(253, 253, 248);
+constexpr std::uint32_t kSquares = rgb(205, 225, 245);
+constexpr std::uint32_t kMargin = rgb(235, 90, 90);
+constexpr std::uint32_t kInk = rgb(25, 45, 120);
+constexpr std::uint32_t kPencil = rgb(110, 120, 140);
+constexpr std::uint32_t kPromptInk = rgb(0, 110, 60);
+
+// The right-hand panel: stopwatch, score and the three buttons.
+constexpr int kPanelLeft = 8000;
+constexpr int kPanelWidth = 3400;
+} // namespace
+
+WrittenFrame::WrittenFrame(App &app, Value PupilProgress::*best, std::string menu)
+    : Screen(app)
+    , best_(best)
+    , menu_(std::move(menu))
+{
+    setSize(12000, 9000);
+    setBackColor(kDesk);
+
+    // Squared paper with a red margin, drawn once; the sum sits on its squares.
+    const int right = cellX(kPageColumns);
+    const int bottom = cellY(kPageRows);
+    Control &paper = canvas("paper", kPageLeft, kPageTop, right - kPageLeft, bottom - kPageTop);
+    Drawing &d = paper.drawing;
+    d.rect(0, 0, right - kPageLeft, bottom - kPageTop, kPaper, kSquares, 30);
+    for (int c = 1; c < kPageColumns; ++c)
+        d.line(c * kCell, 0, c * kCell, bottom - kPageTop, kSquares, 15);
+    for (int r = 1; r < kPageRows; ++r)
+        d.line(0, r * kCell, right - kPageLeft, r * kCell, kSquares, 15);
+    shape("Shape1", ShapeKind::Rectangle, kMargin, kMargin, kPageLeft + kCell / 2, kPageTop, 30,
+          bottom - kPageTop);
+
+    Control &prompt = label("text17", "", kPageLeft, bottom + 250, right - kPageLeft, 1000);
+    prompt.font.points = 24;
+    prompt.font.bold = true;
+    prompt.foreColor = kPromptInk;
+    prompt.align = Align::Center;
+
+    const auto panelLabel = [this](const char *name, const char *text, int top) {
+        Control &c = label(name, text, kPanelLeft, top, 1500, 700);
+        c.font.points = 20;
+        c.font.bold = true;
+        c.foreColor = kInk;
+    };
+    const auto panelValue = [this](const char *name, int top) {
+        Control &c = label(name, "", kPanelLeft + 1600, top - 100, 1800, 850);
+        c.font.points = 28;
+        c.font.bold = true;
+        c.align = Align::Center;
+        c.border = true;
+        c.backColor = colors::white;
+        c.foreColor = kInk;
+    };
+    panelLabel("timelabel", "Time", 700);
+    panelValue("time", 700);
+    panelLabel("scorelabel", "Score", 1800);
+    panelValue("score", 1800);
+
+    const auto panelButton = [this](const char *name, const char *text, int top,
+                                    std::uint32_t colour) -> Control & {
+        Control &b = button(name, text, kPanelLeft, top, kPanelWidth, 900);
+        b.font.points = 20;
+        b.font.bold = true;
+        b.backColor = colour;
+        return b;
+    };
+    panelButton("Command11", "Start", 3300, rgb(140, 220, 140));
+    panelButton("Command10", "Next", 4500, rgb(255, 210, 90)).visible = false;
+    panelButton("Command22", "Exit", 7600, rgb(200, 200, 230));
+
+    timer("Timer1", 1000);
+}
+
+Control &WrittenFrame::digitLabel(std::string name, int column, int row)
+{
+    Control &c = label(std::move(name), "", cellX(column), cellY(row), kCell, kCell);
+    c.font.points = 36;
+    c.font.bold = true;
+    c.foreColor = kInk;
+    c.align = Align::Center;
+    return c;
+}
+
+Control &WrittenFrame::signLabel(std::string text, int column, int row)
+{
+    Control &c = digitLabel("sign", column, row);
+    c.caption = std::move(text);
+    return c;
+}
+
+void WrittenFrame::headings(int firstColumn, int row, std::initializer_list<const char *> letters)
+{
+    int i = 0;
+    for (const char *letter : letters) {
+        Control &c = label("heading", letter, cellX(firstColumn + i), cellY(row) + kCell / 2, kCell,
+                           kCell / 2, i);
+        c.font.points = 14;
+        c.font.bold = true;
+        c.foreColor = kPencil;
+        c.align = Align::Center;
+        ++i;
+    }
+}
+
+Control &WrittenFrame::answerBox(std::string name, std::string spoken, int column, int row)
+{
+    constexpr int inset = 70;
+    boxes_.push_back(name);
+    Control &c = textBox(std::move(name), std::move(spoken), cellX(column) + inset,
+                         cellY(row) + inset, kCell - 2 * inset, kCell - 2 * inset);
+    c.font.points = 32;
+    c.font.bold = true;
+    c.foreColor = kInk;
+    c.align = Align::Center;
+    c.backColor = kIdleBox;
+    c.visible = false;
+    return c;
+}
+
+Control &WrittenFrame::carryBox(std::string name, std::string spoken, int column, int row)
+{
+    constexpr int size = 560;
+    Control &c = answerBox(std::move(name), std::move(spoken), column, row);
+    c.left = cellX(column) + (kCell - size) / 2;
+    c.top = cellY(row) + 120;
+    c.width = c.height = size;
+    c.font.points = 20;
+    return c;
+}
+
+void WrittenFrame::rules(int answerRow, int firstColumn, int lastColumn, bool doubleRule)
+{
+    const int x1 = cellX(firstColumn) + 60;
+    const int x2 = cellX(lastColumn + 1) - 60;
+    line("Line1", x1, cellY(answerRow), x2, cellY(answerRow), kInk).lineWidth = 40;
+    line("Line2", x1, cellY(answerRow + 1), x2, cellY(answerRow + 1), kInk).lineWidth = 40;
+    if (doubleRule)
+        line("Line3", x1, cellY(answerRow + 1) + 90, x2, cellY(answerRow + 1) + 90, kInk)
+            .lineWidth = 40;
+}
+
+bool WrittenFrame::isAnswerBox(std::string_view name) const
+{
+    return std::find(boxes_.begin(), boxes_.end(), name) != boxes_.end();
+}
+
+void WrittenFrame::onOpened()
+{
+    announceBestTime(platform(), progress(), &bestTime());
+    setEnabled("Command11", true);
+    setFocus("Command11");
+}
+
+void WrittenFrame::onClick(const std::string &name, int index)
+{
+    if (name == "Command11")
+        startExercise();
+    else if (name == "Command10")
+        newQuestion();
+    else if (name == "Command22")
+        backToMenu();
+    else
+        onPageClick(name, index);
+}
+
+void WrittenFrame::onTimer(const std::string &name)
+{
+    if (name == "Timer1")
+        addSeconds(1);
+}
+
+void WrittenFrame::onKeyPress(const std::string &name, int index, int &key)
+{
+    if (index != -1 || !isAnswerBox(name))
+        return;
+    Control &box = ctl(name);
+    if (const auto value = filterAnswerKey(box.caption, keyReference(name), key))
+        submit(name, *value);
+}
+
+double WrittenFrame::keyReference(const std::string &box)
+{
+    return readNumber(caption(box));
+}
+
+void WrittenFrame::startExercise()
+{
+    setEnabled("Command11", false);
+    caption("score") = "0";
+    caption("time") = "0";
+    setTimer("Timer1", true);
+    newQuestion();
+}
+
+void WrittenFrame::backToMenu()
+{
+    handOver(menu_);
+}
+
+void WrittenFrame::addSeconds(int seconds)
+{
+    caption("time") = numberText(readNumber(caption("time")) + seconds);
+}
+
+void WrittenFrame::rightEntry()
+{
+    platform().beep();
+}
+
+void WrittenFrame::wrongEntry(const std::string &box)
+{
+    caption(box).clear();
+    addSeconds(2);
+}
+
+void WrittenFrame::clearPage()
+{
+    questionComplete_ = false;
+    setVisible("Command10", false);
+    for (const std::string &box : boxes_)
+        caption(box).clear();
+    setPrompt("");
+}
+
+void WrittenFrame::questionDone()
+{
+    questionComplete_ = true;
+    setPrompt(praiseFor(draw()));
+    setVisible("Command10", true);
+    setFocus("Command10");
+    const double score = readNumber(caption("score")) + 1;
+    caption("score") = numberText(score);
+    if (score == kQuestions)
+        finishExercise();
+}
+
+void WrittenFrame::stopExercise()
+{
+    setVisible("Command10", false);
+    setTimer("Timer1", false);
+}
+
+void WrittenFrame::finishExercise()
+{
+    stopExercise();
+    carryOn(bestTimeCheck(platform(), progress(), &bestTime(), timeText(), kQuestions));
+}
+
+void WrittenFrame::askAnotherGo(std::string message)
+{
+    message += "Do you want another go ?";
+    progress().MessageText = Value::text(message);
+    const int reply = platform().askYesNo(message);
+    progress().MessageReply = Value::int16(std::int16_t(reply));
+    carryOn(reply);
+}
+
+void WrittenFrame::carryOn(int reply)
+{
+    if (reply == kYes)
+        startExercise();
+    else
+        backToMenu();
+}
+
+} // namespace nb

@@ -1,0 +1,219 @@
+#include "written/sub33.h"
+
+#include "core/NumberText.h"
+
+namespace nb {
+
+namespace {
+constexpr int kSignColumn = 1, kHundreds = 3, kTens = 4, kUnits = 5;
+constexpr int kExchangeRow = 1, kTopRow = 2, kBottomRow = 3, kAnswerRow = 4;
+// Exchanges are written in red, as a teacher would.
+constexpr std::uint32_t kExchangeInk = rgb(215, 40, 40);
+
+const char *const kBoxes[] = {"Text11", "Text12", "Text13"};
+const char *const kPrompts[] = {"Enter the units.", "Enter the tens.", "Enter the hundreds."};
+} // namespace
+
+Sub33::Sub33(App &app)
+    : WrittenFrame(app, &PupilProgress::ColumnSubBest, "submenu")
+{
+    headings(kHundreds, 0, {"H", "T", "U"});
+    digitLabel("Label1", kHundreds, kTopRow);
+    digitLabel("Label2", kTens, kTopRow);
+    digitLabel("Text5", kUnits, kTopRow);
+    signLabel("\u2212", kSignColumn, kBottomRow);
+    digitLabel("text10", kHundreds, kBottomRow);
+    digitLabel("text4", kTens, kBottomRow);
+    digitLabel("text2", kUnits, kBottomRow);
+
+    // A top digit that gave is crossed out and rewritten above its column.
+    for (int i = 0; i < 2; ++i) {
+        const int x = cellX(kHundreds + i);
+        Control &strike = line("strike", x + 250, cellY(kTopRow) + kCell - 150, x + kCell - 250,
+                               cellY(kTopRow) + 170, kExchangeInk, i);
+        strike.lineWidth = 30;
+        strike.visible = false;
+    }
+    const auto rewritten = [this](const char *name, int column) {
+        Control &c = label(name, "", cellX(column) + 200, cellY(kExchangeRow) + 280, kCell - 400,
+                           kCell - 300);
+        c.font.points = 24;
+        c.font.bold = true;
+        c.foreColor = kExchangeInk;
+        c.align = Align::Center;
+        c.visible = false;
+    };
+    rewritten("Text16", kHundreds);
+    rewritten("Text15", kTens);
+    // The small "1"s go just in front of the digit that received the exchange.
+    const auto smallOne = [this](const char *name, int column, int row, int top) {
+        Control &c = label(name, "1", cellX(column) + 50, cellY(row) + top, 260, 480);
+        c.font.points = 16;
+        c.font.bold = true;
+        c.foreColor = kExchangeInk;
+        c.align = Align::Right;
+        c.visible = false;
+    };
+    smallOne("Text14", kTens, kTopRow, 380);
+    smallOne("text18", kUnits, kTopRow, 380);
+    smallOne("text19", kTens, kExchangeRow, 420);
+
+    rules(kAnswerRow, kSignColumn, kUnits, false);
+    answerBox("Text13", "hundreds", kHundreds, kAnswerRow);
+    answerBox("Text12", "tens", kTens, kAnswerRow);
+    answerBox("Text11", "units", kUnits, kAnswerRow);
+
+    Control &hint =
+        label("hint", "Top digit too small? Click the top digit on its left to exchange.", 8000,
+              5700, 3400, 1500);
+    hint.font.points = 14;
+    hint.foreColor = kExchangeInk;
+}
+
+void Sub33::newQuestion()
+{
+    topHundreds_ = int(draw() * 9) + 1;
+    caption("Label1") = numberText(topHundreds_);
+    topTens_ = int(draw() * 10);
+    caption("Label2") = numberText(topTens_);
+    topUnits_ = int(draw() * 10);
+    caption("Text5") = numberText(topUnits_);
+    // Always below the top hundreds digit, so the difference is at least 1.
+    bottomHundreds_ = int(draw() * topHundreds_);
+    caption("text10") = numberText(bottomHundreds_);
+    bottomTens_ = int(draw() * 10);
+    caption("text4") = numberText(bottomTens_);
+    bottomUnits_ = int(draw() * 10);
+    caption("text2") = numberText(bottomUnits_);
+
+    difference_ = (topHundreds_ * 100 + topTens_ * 10 + topUnits_) -
+                  (bottomHundreds_ * 100 + bottomTens_ * 10 + bottomUnits_);
+    answerWidth_ = difference_ >= 100 ? 3 : 2;
+
+    clearPage();
+    for (const char *name : {"Text16", "Text15", "Text14", "text18", "text19"})
+        setVisible(name, false);
+    setVisible("strike", false, 0);
+    setVisible("strike", false, 1);
+    unitsEntered_ = tensEntered_ = hundredsEntered_ = 0;
+    exchangedFromTens_ = exchangedFromHundreds_ = 0;
+    step_ = 1;
+    showStep();
+}
+
+void Sub33::showStep()
+{
+    for (int i = 0; i < 3; ++i) {
+        Control &box = ctl(kBoxes[i]);
+        box.visible = i < step_;
+        box.enabled = false; // only the active box takes input
+    }
+    Control &active = ctl(kBoxes[step_ - 1]);
+    active.backColor = kActiveBox;
+    setPrompt(kPrompts[step_ - 1]);
+    // A column whose top digit is still too small waits for its exchange.
+    const bool waiting =
+        (step_ == 1 && bottomUnits_ > unitsNow()) || (step_ == 2 && bottomTens_ > tensNow());
+    if (!waiting) {
+        active.enabled = true;
+        setFocus(active.name);
+    }
+}
+
+void Sub33::onPageClick(const std::string &name, int)
+{
+    if (name == "Label2")
+        exchangeIntoUnits();
+    else if (name == "Label1")
+        exchangeIntoTens();
+}
+
+void Sub33::write(const char *label, int value)
+{
+    caption(label) = numberText(value);
+    setVisible(label, true);
+    if (label == std::string_view("Text16"))
+        setVisible("strike", true, 0);
+    else if (label == std::string_view("Text15"))
+        setVisible("strike", true, 1);
+}
+
+void Sub33::exchangeIntoUnits()
+{
+    if (step_ != 1 || exchangedFromTens_ || bottomUnits_ <= topUnits_)
+        return;
+    if (!exchangedFromHundreds_ && topTens_ > 0) {
+        write("Text15", topTens_ - 1);
+    } else if (exchangedFromHundreds_) {
+        // The tens had been 0 and read 10 after the hundred came in; one of them goes on.
+        write("Text15", topTens_ + 10 - 1);
+        setVisible("Text14", false);
+    } else {
+        return; // no tens to give: the hundreds must be exchanged first
+    }
+    write("text18", 1);
+    exchangedFromTens_ = 1;
+    setEnabled("Text11", true);
+    setFocus("Text11");
+}
+
+void Sub33::exchangeIntoTens()
+{
+    if (exchangedFromHundreds_)
+        return;
+    if (step_ == 1 && topTens_ == 0 && bottomUnits_ > topUnits_) {
+        // The units need a ten but there are none: a hundred is changed into ten tens first.
+        write("Text16", topHundreds_ - 1);
+        write("Text14", 1);
+        exchangedFromHundreds_ = 1;
+    } else if (step_ == 2 && topTens_ - exchangedFromTens_ < bottomTens_) {
+        write("Text16", topHundreds_ - 1);
+        exchangedFromHundreds_ = 1;
+        write(exchangedFromTens_ ? "text19" : "Text14", 1);
+        setEnabled("Text12", true);
+        setFocus("Text12");
+    }
+}
+
+void Sub33::submit(const std::string &box, int value)
+{
+    if (box == "Text11")
+        unitsEntered_ = value;
+    else if (box == "Text12")
+        tensEntered_ = value;
+    else if (box == "Text13")
+        hundredsEntered_ = value;
+    checkStep();
+}
+
+void Sub33::checkStep()
+{
+    bool right = false;
+    switch (step_) {
+    case 3:
+        right = difference_ - 10 * tensEntered_ - unitsEntered_ == 100 * hundredsEntered_ &&
+                hundredsEntered_ >= 0;
+        break;
+    case 2:
+        // An entry made before a needed exchange is wrong, even with the right digit.
+        right =
+            bottomTens_ <= tensNow() && ((difference_ - unitsEntered_) / 10) % 10 == tensEntered_;
+        break;
+    default:
+        right = unitsNow() - bottomUnits_ == unitsEntered_;
+        break;
+    }
+    if (!right) {
+        wrongEntry(kBoxes[step_ - 1]);
+    } else {
+        rightEntry();
+        if (step_ == 3) {
+            setEnabled("Text13", false);
+            return questionDone();
+        }
+        ++step_;
+    }
+    showStep();
+}
+
+} // namespace nb
