@@ -36,3 +36,29 @@ int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
 }
 
 } // namespace nb
+
+namespace nb {
+
+int flagBit(const Value &flag)
+{
+    if (flag.equalsNumber(1))
+        return 1;
+    return flag.equalsNumber(0) ? 0 : -1;
+}
+
+int optionFamily(const Value &negatives, const Value &decimals)
+{
+    const int neg = flagBit(negatives);
+    const int dec = flagBit(decimals);
+    return neg < 0 || dec < 0 ? -1 : neg + 2 * dec;
+}
+
+int levelIndex(const Value &level, int levels)
+{
+    for (int n = 1; n <= levels; ++n)
+        if (level.equalsNumber(n))
+            return n - 1;
+    return -1;
+}
+
+} // namespace nb

@@ -1,6 +1,7 @@
 #pragma once
 // The end-of-run comparison of the elapsed time with the pupil's best, shared by every timed
-// activity, and the announcement of the stored best when a timed screen opens.
+// activity, the announcement of the stored best when a timed screen opens, and the rule that
+// picks a run's best-time slot from its level and option flags.
 #include "core/Value.h"
 
 #include <string>
@@ -20,5 +21,17 @@ void announceBestTime(Platform &platform, PupilProgress &progress, const Value *
 // A null slot stores nothing and praises nothing.
 int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
                   const std::string &timeText, int questions);
+
+// Slot selection. A flag counts as set only when it equals 1 and as clear only when it equals 0
+// (a flag never written is 0); a level counts only when it is a whole number in range. Anything
+// else selects no slot, so nothing is announced and nothing is stored.
+
+// 1 for a set flag, 0 for a clear one, -1 for any other value.
+int flagBit(const Value &flag);
+// The option family of a negatives and a decimals flag: 0 neither, 1 negatives only, 2 decimals
+// only, 3 both; -1 when either flag is neither 0 nor 1.
+int optionFamily(const Value &negatives, const Value &decimals);
+// The level as an index from 0 when it equals 1..levels, else -1.
+int levelIndex(const Value &level, int levels);
 
 } // namespace nb
