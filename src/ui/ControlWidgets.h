@@ -5,10 +5,12 @@
 #include "core/Control.h"
 #include "ui/Pictures.h"
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QWidget>
 
 namespace nb::ui {
@@ -33,6 +35,19 @@ protected:
 };
 
 using ClickLabel = Clickable<QLabel>;
+
+// A check box or option button that reacts to a click anywhere in its box, not only on its
+// mark and caption.
+template<class Base> class WholeBoxButton : public Base
+{
+public:
+    using Base::Base;
+
+protected:
+    bool hitButton(const QPoint &pos) const override { return this->rect().contains(pos); }
+};
+using CheckBoxView = WholeBoxButton<QCheckBox>;
+using OptionView = WholeBoxButton<QRadioButton>;
 
 // A text box: keys that type something (and Enter, Backspace, Escape) go to the model before
 // they reach the box; the model may swallow or replace them.

@@ -6,12 +6,10 @@
 #include "ui/Look.h"
 #include "ui/MainWindow.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPainter>
-#include <QRadioButton>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -178,10 +176,10 @@ void ScreenView::make(Bound &b, const Control &c, int slot)
     case ControlKind::OptionButton: {
         QAbstractButton *ab = nullptr;
         if (c.kind == ControlKind::CheckBox) {
-            ab = new QCheckBox(this);
+            ab = new CheckBoxView(this);
         } else {
             // The model decides which options are set; Qt must not clear the others itself.
-            auto *rb = new QRadioButton(this);
+            auto *rb = new OptionView(this);
             rb->setAutoExclusive(false);
             ab = rb;
         }

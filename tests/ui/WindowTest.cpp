@@ -1,0 +1,405 @@
+// The window layer against a small test screen: layout scaling, events in both directions,
+// keys seen before they are applied, boxes and timers, screens closing inside their own events.
+#include "core/App.h"
+#include "core/Screen.h"
+#include "ui/ControlWidgets.h"
+#include "ui/MainWindow.h"
+#include "ui/QtPlatform.h"
+#include "ui/ScreenView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPointer>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace nb::ui {
+namespace {
+
+// Every kind of control, with handlers that record what the model was told.
+class Probe : public Screen
+{
+public:
+    explicit Probe(App &app)
+        : Screen(app)
+    {
+        setSize(12000, 9000);
+        setBackColor(rgb(10, 120, 30));
+        label("score", "0", 600, 300, 3000, 600).font.points = 18;
+        button("add", "Add one", 600, 1200, 3000, 900);
+        button("ask", "Ask", 4000, 1200, 3000, 900);
+        button("leave", "Leave", 7400, 1200, 3000, 900);
+        button("swap", "Swap", 7400, 2400, 3000, 900);
+        textBox("answer", "Answer", 600, 2400, 3000, 900);
+        for (int i = 10; i <= 12; ++i)
+            textBox("answers", "", 600 + (i - 10) * 1000, 3600, 900, 600, i);
+        checkBox("tick", "Tick me", 4000, 3600, 3000, 500);
+        Control &choice = list("choice", 4000, 4300, 3000, 1500);
+        choice.items = {"one", "two", "three"};
+        Control slider;
+        slider.kind = ControlKind::ScrollBar;
+        slider.name = "slider";
+        slider.left = 600;
+        slider.top = 4500;
+        slider.width = 3000;
+        slider.height = 300;
+        add(slider);
+        image("photo", "no_such_picture.svg", 7400, 3600, 1500, 1500);
+        shape("frame", ShapeKind::Oval, colors::yellow, colors::blue, 9000, 3600, 1500, 1500);
+        line("rule", 600, 6000, 11400, 6000, colors::red);
+        canvas("board", 600, 6300, 4000, 2400).drawing.rect(0, 0, 2000, 1200, colors::white, 0);
+        timer("Timer1", 40);
+        setFocus("answer");
+    }
+
+    void onClick(const std::string &name, int) override
+    {
+        clicks.push_back(name);
+        if (name == "add") {
+            caption("score") = std::to_string(std::stoi(caption("score")) + 1);
+            setTimer("Timer1", true);
+        } else if (name == "ask") {
+            caption("score") = "asking";
+            caption("score") = std::to_string(platform().askYesNo("Go on?"));
+        } else if (name == "leave") {
+            closeSelf();
+            caption("score") = "closing"; // still usable until the event ends
+        } else if (name == "swap") {
+            handOver("other");
+        } else if (name == "board") {
+            ctl("board").drawing.ellipse(0, 0, 500, 500, colors::red, colors::black);
+        }
+    }
+    void onKeyPress(const std::string &name, int index, int &key) override
+    {
+        seen.push_back(ctl(name, index).caption + "|" + std::to_string(key));
+        if (key == 'x')
+            key = 0;
+        else if (key == '7')
+            caption(name, index).clear();
+        else if (key == 'a')
+            key = 'A';
+        else if (key == 13 && caption(name, index) == "bye")
+            handOver(this->name() == "probe" ? "other" : "probe");
+    }
+    void onChange(const std::string &name, int index) override
+    {
+        changes.push_back(ctl(name, index).id());
+    }
+    void onMouseDown(const std::string &name, int, double x, double y) override
+    {
+        downs.push_back({name, x, y});
+    }
+    void onTimer(const std::string &) override { ++ticks; }
+
+    struct Down
+    {
+        std::string name;
+        double x, y;
+    };
+    std::vector<std::string> clicks, seen, changes;
+    std::vector<Down> downs;
+    int ticks = 0;
+};
+
+class WindowTest : public ::testing::Test
+{
+protected:
+    WindowTest()
+    {
+        registry.add<Probe>("probe", "Probe screen");
+        registry.add<Probe>("other", "Other screen");
+        platform.setWindow(&window);
+        platform.setAnswerer([](const BoxRequest &r) {
+            ADD_FAILURE() << "unexpected box: " << r.text;
+            return BoxAnswer{};
+        });
+    }
+
+    Probe &open(QSize size = {800, 600})
+    {
+        window.resize(size);
+        window.show();
+        EXPECT_TRUE(window.start("probe"));
+        QCoreApplication::processEvents();
+        return probe();
+    }
+    Probe &probe() { return *static_cast<Probe *>(app.front()); }
+    template<class W = QWidget> W *widget(const std::string &name, int index = -1)
+    {
+        auto *w = dynamic_cast<W *>(window.frontView()->widgetFor(name, index));
+        EXPECT_TRUE(w) << name;
+        return w;
+    }
+    void click(const std::string &name, int index = -1)
+    {
+        QTest::mouseClick(widget(name, index), Qt::LeftButton);
+    }
+    QString text(const std::string &name, int index = -1)
+    {
+        QWidget *w = widget(name, index);
+        if (auto *l = dynamic_cast<QLabel *>(w))
+            return l->text();
+        return dynamic_cast<QLineEdit *>(w)->text();
+    }
+
+    QtPlatform platform;
+    ScreenRegistry registry;
+    App app{platform, registry};
+    MainWindow window{app};
+};
+
+TEST_F(WindowTest, LayoutScalesUniformlyAndCentres)
+{
+    struct Case
+    {
+        QSize window;
+        double scale;
+        QPoint origin;
+    };
+    const Case cases[] = {
+        {{800, 600}, 1.0, {0, 0}},
+        {{1600, 1200}, 2.0, {0, 0}},
+        {{1000, 600}, 1.0, {100, 0}}, // too wide: bars left and right
+        {{400, 500}, 0.5, {0, 100}},  // too tall: bars above and below
+    };
+    open();
+    for (const Case &c : cases) {
+        window.resize(c.window);
+        QCoreApplication::processEvents();
+        SCOPED_TRACE(c.window.width());
+        ScreenView *view = window.frontView();
+        EXPECT_DOUBLE_EQ(view->scale(), c.scale);
+        // "add" is at 600,1200 twips, 3000 x 900: 40,80 px and 200 x 60 px at scale 1.
+        const QRect expected(c.origin + QPoint(40, 80) * c.scale, QSize(200, 60) * c.scale);
+        EXPECT_EQ(widget("add")->geometry(), expected);
+        EXPECT_EQ(widget("score")->font().pixelSize(), qRound(24 * c.scale));
+        // The bars around the layout show the screen's colour.
+        const QImage shot = window.grab().toImage();
+        EXPECT_EQ(shot.pixelColor(1, 1), QColor(10, 120, 30));
+    }
+}
+
+TEST_F(WindowTest, TitleNamesAndIdsComeFromTheModel)
+{
+    open();
+    EXPECT_EQ(window.windowTitle(), "Probe screen");
+    QWidget *box = widget("answers", 11);
+    EXPECT_EQ(box->objectName(), "answers(11)");
+    EXPECT_EQ(box->accessibleDescription(), "answers(11)");
+    EXPECT_EQ(box->accessibleName(), "answers"); // no spoken name: the control's name
+    EXPECT_EQ(widget("answer")->accessibleName(), "Answer");
+    EXPECT_EQ(widget("add")->accessibleName(), "Add one");
+    EXPECT_EQ(widget("tick")->accessibleName(), "Tick me");
+    EXPECT_EQ(widget("score")->accessibleName(), "0");
+    click("add");
+    EXPECT_EQ(widget("score")->accessibleName(), "1");
+}
+
+TEST_F(WindowTest, FocusFollowsTheScreensRequest)
+{
+    Probe &p = open();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.syncAll(true);
+    EXPECT_TRUE(widget("answer")->hasFocus());
+    click("add"); // the pressed button takes focus; the screen still wants its box
+    EXPECT_TRUE(widget("answer")->hasFocus());
+    p.setFocus("answers", 12);
+    window.syncAll();
+    EXPECT_TRUE(widget("answers", 12)->hasFocus());
+    // A request already applied is not forced again by timer ticks and typing.
+    widget("answer")->setFocus();
+    window.syncAll();
+    EXPECT_TRUE(widget("answer")->hasFocus());
+}
+
+TEST_F(WindowTest, ClicksReachTheModelAndTheResultIsShown)
+{
+    Probe &p = open();
+    click("add");
+    click("add");
+    EXPECT_EQ(p.clicks, (std::vector<std::string>{"add", "add"}));
+    EXPECT_EQ(text("score"), "2");
+
+    // A disabled or hidden control cannot be clicked.
+    p.ctl("add").enabled = false;
+    window.syncAll();
+    click("add");
+    EXPECT_EQ(p.clicks.size(), 2u);
+}
+
+TEST_F(WindowTest, StockWidgetsReportTheirStateBeforeTheEvent)
+{
+    Probe &p = open();
+    click("tick");
+    EXPECT_EQ(p.ctl("tick").value, 1);
+    EXPECT_TRUE(widget<QCheckBox>("tick")->isChecked());
+    click("tick");
+    EXPECT_EQ(p.ctl("tick").value, 0);
+
+    widget<QListWidget>("choice")->setCurrentRow(2);
+    EXPECT_EQ(p.ctl("choice").listIndex, 2);
+    widget<QScrollBar>("slider")->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    EXPECT_EQ(p.ctl("slider").value, 10);
+    EXPECT_EQ(p.changes, (std::vector<std::string>{"choice", "slider"}));
+
+    // And the model's own changes come back without being reported as the pupil's.
+    p.ctl("choice").items = {"a", "b"};
+    p.ctl("choice").listIndex = 0;
+    p.ctl("slider").value = 55;
+    window.syncAll();
+    EXPECT_EQ(widget<QListWidget>("choice")->count(), 2);
+    EXPECT_EQ(widget<QListWidget>("choice")->currentRow(), 0);
+    EXPECT_EQ(widget<QScrollBar>("slider")->value(), 55);
+    EXPECT_EQ(p.changes.size(), 2u);
+}
+
+TEST_F(WindowTest, MouseDownReportsTwipsFromTheControlsCorner)
+{
+    Probe &p = open({1600, 1200}); // scale 2: one pixel is 7.5 twips
+    QTest::mousePress(widget("board"), Qt::LeftButton, {}, QPoint(20, 40));
+    ASSERT_EQ(p.downs.size(), 1u);
+    EXPECT_EQ(p.downs[0].name, "board");
+    EXPECT_DOUBLE_EQ(p.downs[0].x, 150);
+    EXPECT_DOUBLE_EQ(p.downs[0].y, 300);
+}
+
+TEST_F(WindowTest, KeysAreSeenBeforeTheyAreApplied)
+{
+    struct Case
+    {
+        const char *before;
+        QChar key;
+        const char *seen;
+        const char *after;
+    };
+    const Case cases[] = {
+        {"", '1', "|49", "1"},       {"1", '2', "1|50", "12"},
+        {"12", 'x', "12|120", "12"}, // swallowed
+        {"12", '7', "12|55", "7"},   // the model cleared the box; the key goes into it
+        {"7", 'a', "7|97", "7A"},    // the model replaced the key
+    };
+    Probe &p = open();
+    AnswerBox *box = widget<AnswerBox>("answer");
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.seen);
+        ASSERT_EQ(box->text(), c.before);
+        QTest::keyClick(box, c.key.toLatin1());
+        EXPECT_EQ(p.seen.back(), c.seen);
+        EXPECT_EQ(box->text(), c.after);
+        EXPECT_EQ(p.ctl("answer").caption, c.after);
+    }
+    QTest::keyClick(box, Qt::Key_Backspace);
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(p.seen[p.seen.size() - 2], "7A|8");
+    EXPECT_EQ(p.seen.back(), "7|13");
+    // One change per key that altered the text (the swallowed key altered nothing).
+    EXPECT_EQ(std::count(p.changes.begin(), p.changes.end(), "answer"), 5);
+
+    // Edits that are not typed keys (a paste, Delete) report the change too.
+    box->setCursorPosition(0);
+    QTest::keyClick(box, Qt::Key_Delete);
+    EXPECT_EQ(p.ctl("answer").caption, "");
+    EXPECT_EQ(p.changes.back(), "answer");
+}
+
+TEST_F(WindowTest, BoxesSeeTheScreenUpToDateAndTimersStandStill)
+{
+    Probe &p = open();
+    click("add"); // starts Timer1
+    QTest::qWait(300);
+    EXPECT_GT(p.ticks, 0);
+
+    std::vector<BoxRequest> asked;
+    int ticksDuringBox = -1;
+    platform.setAnswerer([&](const BoxRequest &r) {
+        asked.push_back(r);
+        EXPECT_EQ(text("score"), "asking");
+        const int before = p.ticks;
+        QTest::qWait(300);
+        ticksDuringBox = p.ticks - before;
+        return BoxAnswer{kNo, {}};
+    });
+    click("ask");
+    ASSERT_EQ(asked.size(), 1u);
+    EXPECT_EQ(asked[0].kind, BoxRequest::Kind::YesNo);
+    EXPECT_EQ(asked[0].text, "Go on?");
+    EXPECT_EQ(asked[0].title, "NUMBROOK");
+    EXPECT_EQ(ticksDuringBox, 0);
+    EXPECT_EQ(text("score"), "7");
+
+    const int afterBox = p.ticks;
+    QTest::qWait(300);
+    EXPECT_GT(p.ticks, afterBox) << "timers run again once the box is answered";
+}
+
+TEST_F(WindowTest, ScreensMayCloseInsideTheirOwnEvents)
+{
+    open();
+    QPointer<ScreenView> first = window.frontView();
+    click("leave");
+    EXPECT_EQ(app.front(), nullptr);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(first.isNull());
+
+    window.start("probe");
+    click("swap");
+    EXPECT_EQ(window.windowTitle(), "Other screen");
+
+    // Enter on "bye" hands over from inside a key press.
+    AnswerBox *box = widget<AnswerBox>("answer");
+    QTest::keyClicks(box, "bye");
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(app.front()->name(), "probe");
+    EXPECT_EQ(window.windowTitle(), "Probe screen");
+    EXPECT_NE(window.frontView()->widgetFor("answer"), box);
+}
+
+TEST_F(WindowTest, AScreenBelowIsShownAgainAsItWas)
+{
+    Probe &below = open();
+    click("add");
+    QWidget *score = widget("score");
+    app.show("other");
+    window.syncAll();
+    EXPECT_EQ(window.windowTitle(), "Other screen");
+    app.close("other");
+    window.syncAll();
+    EXPECT_EQ(app.front(), &below);
+    EXPECT_EQ(window.windowTitle(), "Probe screen");
+    EXPECT_EQ(widget("score"), score) << "the view was kept, not rebuilt";
+    EXPECT_EQ(text("score"), "1");
+}
+
+TEST_F(WindowTest, UnchangedDrawingIsNotRenderedAgain)
+{
+    open();
+    auto *board = widget<CanvasView>("board");
+    board->repaint();
+    const int first = board->renders();
+    EXPECT_GE(first, 1);
+    board->repaint();
+    window.frontView()->repaint();
+    EXPECT_EQ(board->renders(), first);
+    click("board"); // adds a shape: new revision
+    board->repaint();
+    EXPECT_EQ(board->renders(), first + 1);
+}
+
+TEST_F(WindowTest, EndingTheProgramClosesTheWindow)
+{
+    open();
+    QSignalSpy finished(&window, &MainWindow::finished);
+    app.endProgram();
+    EXPECT_TRUE(finished.wait(1000));
+    EXPECT_FALSE(window.isVisible());
+}
+
+} // namespace
+} // namespace nb::ui
