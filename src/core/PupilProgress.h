@@ -107,6 +107,7 @@ struct PupilProgress
     Value Unsaved;
     Value LoadedFromFile;
     Value LoadedFileName;
+    Value RecordFolder; // the folder of the record loaded in this run; the file screens open there
     Value FileNumber;
     Value MessageText;
     Value MessageReply;
