@@ -1,0 +1,48 @@
+#pragma once
+// The frame the save and load screens share: a drive list, a folder list, the record files of the
+// chosen folder, the file-type list, the name box, OK and Cancel.
+//
+// Folders: the folder list shows ".." (unless at the top of a drive) and the subfolders of the
+// open folder. Picking one shows its record files and path at once, and OK then acts in that
+// folder; double-clicking one also opens it, listing its own subfolders. (Opening on a single
+// pick would make a double-click go two folders deep, as the second click lands on the new list.)
+#include "core/Screen.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace nb {
+
+class RecordFileScreen : public Screen
+{
+public:
+    explicit RecordFileScreen(App &app);
+
+    void onOpened() override;
+    void onClick(const std::string &name, int index) override;
+    void onDoubleClick(const std::string &name, int index) override;
+    void onChange(const std::string &name, int index) override;
+
+protected:
+    // OK pressed (or a file double-clicked): save or load the file named in the name box.
+    virtual void act() = 0;
+
+    // The folder whose files are listed; the one OK acts in.
+    const std::filesystem::path &folder() const { return folder_; }
+    std::string &nameBox() { return caption("txtfilename"); }
+
+private:
+    bool openFolder(const std::filesystem::path &folder);
+    bool listFiles(const std::filesystem::path &folder);
+    void selectDriveOfFolder();
+    void driveChosen();
+    void folderPicked(bool open);
+    void filePicked(bool act);
+
+    std::filesystem::path open_;   // the folder whose subfolders are listed
+    std::filesystem::path folder_; // the folder whose files are listed
+    std::vector<std::filesystem::path> drives_;
+    std::vector<std::filesystem::path> folderItems_; // the folder behind each folder-list item
+};
+
+} // namespace nb

@@ -1,0 +1,382 @@
+// The save and load screens as a pupil or teacher uses them, in a folder of their own.
+#include "drills/BestTimeCheck.h"
+#include "shell/record/RecordCodec.h"
+#include "support/Driver.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <unistd.h>
+
+namespace nb::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string slurp(const fs::path &p)
+{
+    std::ifstream in(p, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void spit(const fs::path &p, const std::string &bytes)
+{
+    std::ofstream(p, std::ios::binary) << bytes;
+}
+
+std::vector<std::string> entries(const fs::path &folder)
+{
+    std::vector<std::string> out;
+    for (const auto &e : fs::directory_iterator(folder))
+        out.push_back(e.path().filename().string());
+    std::sort(out.begin(), out.end());
+    return out;
+}
+
+class RecordScreens : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        root = fs::temp_directory_path() /
+               ("numbrook-record-" + std::to_string(::getpid()) + "-" +
+                ::testing::UnitTest::GetInstance()->current_test_info()->name());
+        fs::remove_all(root);
+        fs::create_directories(root / "docs");
+        d = fresh();
+    }
+    void TearDown() override
+    {
+        d.reset();
+        fs::remove_all(root);
+    }
+
+    // A new run of the program, at the main menu.
+    std::unique_ptr<Driver> fresh()
+    {
+        auto run = std::make_unique<Driver>();
+        run->platform.setDocuments((root / "docs").string());
+        run->platform.setDrives({root.string()});
+        run->open("cover");
+        run->click("Command1");
+        return run;
+    }
+    fs::path records() const { return root / "docs" / "NUMBROOK records"; }
+
+    void newPupil(const std::string &name = "Ann Smith")
+    {
+        d->platform.queueInput(name);
+        d->click("Command2");
+    }
+    // EXIT, "Do you want to save?" Yes.
+    void exitAndSave()
+    {
+        d->platform.queueYes();
+        d->click("Command1");
+    }
+    // Picks a folder of the top of the drive; opening it lists its own subfolders too.
+    void pickFolderOnDrive(const std::string &sub, bool open)
+    {
+        d->select("drvdrive", 0);
+        const auto &items = d->control("dirdirectory").items;
+        const auto it = std::find(items.begin(), items.end(), sub);
+        ASSERT_NE(it, items.end()) << sub;
+        d->select("dirdirectory", int(it - items.begin()));
+        if (open)
+            d->doubleClick("dirdirectory");
+    }
+
+    fs::path root;
+    std::unique_ptr<Driver> d;
+};
+
+TEST_F(RecordScreens, SaveNameRules)
+{
+    const struct
+    {
+        std::string typed;
+        std::string file;    // written, or empty when refused
+        std::string message; // when refused
+    } cases[] = {
+        {"tom", "tom.DAT", ""},
+        {"tom.dat", "tom.dat", ""},
+        {"abcdefgh", "abcdefgh.DAT", ""},
+        {"abcdefgh.dat", "abcdefgh.dat", ""},
+        {"Zoë", "Zoë.DAT", ""}, // three characters, four bytes
+        {"abcdefghi", "", "Invalid filename"},
+        {"abcdefghi.dat", "", "Invalid filename"},
+        {"a.b", "", "Invalid filename"},
+        {"a.b.dat", "", "Invalid filename"},
+        {"tom.DAT", "", "Invalid filename"}, // only ".dat" is recognised as the ending
+        {"to m", "", "Invalid filename"},
+        {"a/b", "", "Invalid filename"},
+        {"", "", "File not selected!"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.typed);
+        fs::remove_all(records());
+        d = fresh();
+        newPupil();
+        exitAndSave();
+        ASSERT_EQ(d->frontName(), "Filesave");
+        EXPECT_EQ(d->caption("lbldirname"), records().string());
+        d->type("txtfilename", c.typed);
+        d->click("cmdOK");
+        if (!c.file.empty()) {
+            EXPECT_TRUE(d->app.ended());
+            EXPECT_EQ(entries(records()), std::vector<std::string>{c.file});
+            EXPECT_EQ(slurp(records() / c.file), record::encode(d->progress()));
+        } else {
+            EXPECT_FALSE(d->app.ended());
+            EXPECT_EQ(d->platform.messages().back(), c.message);
+            EXPECT_EQ(d->caption("txtfilename"), "") << "a refused name is cleared";
+            EXPECT_TRUE(entries(records()).empty());
+        }
+    }
+}
+
+TEST_F(RecordScreens, ANewPupilNeverOverwrites)
+{
+    fs::create_directories(records() / "ann.DAT");
+    spit(records() / "tom.DAT", "someone else's record");
+    newPupil();
+    exitAndSave();
+    for (const char *name : {"tom", "tom.dat", "TOM", "ann"}) {
+        d->type("txtfilename", name);
+        d->click("cmdOK");
+        EXPECT_EQ(d->platform.lastMessage(),
+                  "There is already a file with this name. Use a different filename.");
+        EXPECT_EQ(d->caption("txtfilename"), "");
+    }
+    EXPECT_FALSE(d->app.ended());
+    EXPECT_EQ(slurp(records() / "tom.DAT"), "someone else's record");
+}
+
+TEST_F(RecordScreens, SaveLoadAndSaveAgainIsByteForByte)
+{
+    newPupil("Zoë Łukasz");
+    d->platform.queueNo();
+    bestTimeCheck(d->platform, d->progress(), &d->progress().AddBestNeg3, "37.5", 10);
+    exitAndSave();
+    d->type("txtfilename", "zoe");
+    d->click("cmdOK");
+    ASSERT_TRUE(d->app.ended());
+    const std::string first = slurp(records() / "zoe.DAT");
+
+    d = fresh();
+    d->click("Command3");
+    ASSERT_EQ(d->frontName(), "Filesystem");
+    EXPECT_EQ(d->control("filfiles").items, std::vector<std::string>{"zoe.DAT"});
+    d->doubleClick("filfiles"); // nothing picked yet: nothing happens
+    d->select("filfiles", 0);
+    EXPECT_EQ(d->caption("txtfilename"), "zoe.DAT");
+    d->click("cmdOK");
+    EXPECT_EQ(d->frontName(), "mainmenu");
+    EXPECT_EQ(d->progress().PupilName.str(), "Zoë Łukasz");
+    EXPECT_EQ(d->progress().AddBestNeg3.str(), "37.5");
+    EXPECT_EQ(d->progress().LoadedFileName.str(), "zoe.DAT");
+    EXPECT_TRUE(d->progress().LoadedFromFile.equalsNumber(1));
+    EXPECT_TRUE(d->progress().Unsaved.equalsNumber(1));
+
+    d->platform.clearShown();
+    exitAndSave(); // a loaded pupil is written straight back, with no further question
+    EXPECT_TRUE(d->app.ended());
+    EXPECT_EQ(d->platform.shown.size(), 1u);
+    EXPECT_EQ(slurp(records() / "zoe.DAT"), first);
+    EXPECT_EQ(entries(records()), std::vector<std::string>{"zoe.DAT"}) << "no temporary file left";
+}
+
+TEST_F(RecordScreens, WriteBackGoesToTheLoadedFileAndKeepsALongerTail)
+{
+    // An upper-case name as this program writes it, in a folder of its own, longer than its
+    // record (an older record was longer).
+    const fs::path folder = root / "class 4";
+    fs::create_directories(folder / "sub");
+    PupilProgress old;
+    old.PupilName = Value::text("Tom");
+    old.MulBest = Value::real(12.25);
+    const std::string tail = "--tail of an older, longer record--";
+    spit(folder / "TOM.DAT", record::encode(old) + tail);
+    spit(folder / "notes.txt", "not a record");
+    spit(folder / "b.Dat", "");
+
+    d->click("Command3");
+    pickFolderOnDrive("class 4", true);
+    EXPECT_EQ(d->caption("lbldirname"), folder.string());
+    EXPECT_EQ(d->control("dirdirectory").items, (std::vector<std::string>{"..", "sub"}));
+    EXPECT_EQ(d->control("filfiles").items, (std::vector<std::string>{"b.Dat", "TOM.DAT"}));
+    d->select("filfiles", 1);
+    d->doubleClick("filfiles");
+    ASSERT_EQ(d->frontName(), "mainmenu");
+    EXPECT_EQ(d->progress().MulBest.number(), 12.25);
+
+    d->progress().AddBestNormal1 = Value::real(30); // 8 more bytes, over the start of the tail
+    exitAndSave();
+    EXPECT_TRUE(d->app.ended());
+    const std::string now = record::encode(d->progress());
+    EXPECT_EQ(slurp(folder / "TOM.DAT"), now + tail.substr(8));
+    EXPECT_EQ(entries(folder), (std::vector<std::string>{"TOM.DAT", "b.Dat", "notes.txt", "sub"}));
+    EXPECT_FALSE(fs::exists(records() / "TOM.DAT"));
+}
+
+TEST_F(RecordScreens, CancelReadsAndWritesNothing)
+{
+    PupilProgress other;
+    other.PupilName = Value::text("Bea");
+    fs::create_directories(records());
+    spit(records() / "bea.DAT", record::encode(other));
+
+    d->click("Command3");
+    d->select("filfiles", 0);
+    d->click("cmdcancel");
+    EXPECT_EQ(d->frontName(), "mainmenu");
+    EXPECT_TRUE(d->progress().PupilName.isEmpty());
+    EXPECT_TRUE(d->progress().LoadedFileName.isEmpty());
+
+    newPupil();
+    exitAndSave();
+    d->type("txtfilename", "ann");
+    d->click("cmdcancel");
+    EXPECT_FALSE(d->app.ended());
+    EXPECT_EQ(d->frontName(), "mainmenu");
+    EXPECT_EQ(entries(records()), std::vector<std::string>{"bea.DAT"});
+}
+
+TEST_F(RecordScreens, ALoadThatFailsChangesNothingAndSaysWhy)
+{
+    PupilProgress good;
+    good.PupilName = Value::text("Ann");
+    good.FactorBest = Value::int16(4);
+    const std::string record = record::encode(good);
+    fs::create_directories(records() / "folder.DAT");
+    spit(records() / "ann.DAT", record);
+    spit(records() / "short.DAT", record.substr(0, 10));
+    std::string badTag = record;
+    badTag[std::size_t(record.size() - 4)] = 7; // the last value's tag
+    spit(records() / "tags.DAT", badTag);
+    spit(records() / "runs.DAT", std::string("\x08\x00\xFF\x00ab", 6));
+    spit(records() / "empty.DAT", "");
+    spit(records() / "huge.DAT", "");
+    fs::resize_file(records() / "huge.DAT", record::kMaxRecordBytes + 1);
+    if (::geteuid() == 0) { // permissions do not stop root; reading this file fails for anyone
+        fs::create_symlink("/proc/self/mem", records() / "locked.DAT");
+    } else {
+        spit(records() / "locked.DAT", record);
+        fs::permissions(records() / "locked.DAT", fs::perms::none);
+    }
+
+    // A pupil loaded earlier in the run: every failure must leave all of this as it is.
+    d->click("Command3");
+    d->type("txtfilename", "ann.DAT");
+    d->click("cmdOK");
+    ASSERT_EQ(d->frontName(), "mainmenu");
+    const std::string before = record::encode(d->progress());
+
+    const struct
+    {
+        std::string name;
+        std::string why;
+    } cases[] = {
+        {"", "You must first select a file!"},
+        {"short.DAT", "Sorry, short.DAT could not be loaded: it is not a pupil record (it ends "
+                      "part-way through value 3 of 77)."},
+        {"tags.DAT", "Sorry, tags.DAT could not be loaded: it is not a pupil record (value 77 "
+                     "of 77 is of an unknown type (7))."},
+        {"runs.DAT", "Sorry, runs.DAT could not be loaded: it is not a pupil record (the text of "
+                     "value 1 of 77 runs past the end of the file)."},
+        {"empty.DAT", "Sorry, empty.DAT could not be loaded: the file is empty."},
+        {"folder.DAT", "Sorry, folder.DAT could not be loaded: it is a folder, not a record file."},
+        {"huge.DAT",
+         "Sorry, huge.DAT could not be loaded: it is far too big to be a pupil record."},
+        {"locked.DAT", "Sorry, locked.DAT could not be loaded: it cannot be read ("},
+        {"gone.DAT", "Sorry, gone.DAT could not be loaded: there is no such file in this folder."},
+    };
+    d->open("Filesystem");
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.name);
+        d->setText("txtfilename", c.name);
+        d->click("cmdOK");
+        EXPECT_EQ(d->platform.lastMessage().substr(0, c.why.size()), c.why);
+        EXPECT_EQ(d->frontName(), "Filesystem");
+        EXPECT_EQ(record::encode(d->progress()), before);
+        EXPECT_EQ(d->progress().LoadedFileName.str(), "ann.DAT");
+        EXPECT_TRUE(d->progress().LoadedFromFile.equalsNumber(1));
+        EXPECT_TRUE(d->progress().Unsaved.equalsNumber(1));
+    }
+}
+
+TEST_F(RecordScreens, AFailedSaveKeepsEverythingAndCanBeRetriedElsewhere)
+{
+    fs::create_directories(root / "stick");
+    newPupil();
+    d->progress().MulBest = Value::real(19);
+    exitAndSave();
+    pickFolderOnDrive("stick", false); // its files are shown and OK will save there
+    EXPECT_EQ(d->caption("lbldirname"), (root / "stick").string());
+    fs::remove_all(root / "stick"); // the memory stick is pulled out
+    d->type("txtfilename", "ann");
+    d->click("cmdOK");
+    EXPECT_FALSE(d->app.ended());
+    EXPECT_EQ(d->platform.lastMessage(),
+              "Your record could not be saved as ann.DAT: the folder is no longer there. Your "
+              "progress is still here: choose another folder and press OK to save again.");
+    EXPECT_EQ(d->caption("txtfilename"), "ann");
+    EXPECT_EQ(d->progress().MulBest.number(), 19);
+
+    d->select("drvdrive", 0);
+    d->click("cmdOK");
+    EXPECT_TRUE(d->app.ended());
+    EXPECT_EQ(slurp(root / "ann.DAT"), record::encode(d->progress()));
+}
+
+TEST_F(RecordScreens, DrivesFoldersAndTheFirstFolder)
+{
+    fs::create_directories(root / "b" / "inner");
+    fs::create_directories(root / "A");
+    fs::create_directories(root / ".hidden");
+    spit(root / "x.DAT", "");
+    spit(root / "y.dat", "");
+    spit(root / "z.txt", "");
+    d->platform.setDrives({root.string(), (root / "no disc").string()});
+
+    d->click("Command3");
+    EXPECT_TRUE(fs::is_directory(records())) << "made on first use";
+    EXPECT_EQ(d->caption("lbldirname"), records().string());
+    EXPECT_EQ(d->control("cbofiletype").items, std::vector<std::string>{"quadsum files (*.DAT)"});
+    EXPECT_EQ(d->control("cbofiletype").listIndex, 0);
+    EXPECT_EQ(d->control("drvdrive").listIndex, 0);
+    EXPECT_EQ(d->control("dirdirectory").items, std::vector<std::string>{".."});
+
+    d->select("drvdrive", 0);
+    EXPECT_EQ(d->control("dirdirectory").items, (std::vector<std::string>{"A", "b", "docs"}))
+        << "no way up from the top of a drive; hidden folders left out";
+    EXPECT_EQ(d->control("filfiles").items, (std::vector<std::string>{"x.DAT", "y.dat"}));
+
+    d->select("drvdrive", 1);
+    EXPECT_EQ(d->platform.shown.back().text, "Drive error!");
+    EXPECT_EQ(d->platform.shown.back().title, "Error");
+    EXPECT_EQ(d->platform.shown.back().icon, MsgIcon::Exclamation);
+    EXPECT_EQ(d->control("drvdrive").listIndex, 0);
+    EXPECT_EQ(d->caption("lbldirname"), root.string());
+    EXPECT_EQ(d->control("dirdirectory").items.size(), 3u);
+
+    d->select("dirdirectory", 1); // "b"
+    EXPECT_EQ(d->caption("lbldirname"), (root / "b").string());
+    EXPECT_TRUE(d->control("filfiles").items.empty());
+    d->doubleClick("dirdirectory");
+    EXPECT_EQ(d->control("dirdirectory").items, (std::vector<std::string>{"..", "inner"}));
+    d->select("dirdirectory", 0);
+    d->doubleClick("dirdirectory");
+    EXPECT_EQ(d->caption("lbldirname"), root.string());
+
+    // Documents folder unusable: the first drive instead.
+    d->click("cmdcancel");
+    d->platform.setDocuments((root / "x.DAT" / "docs").string());
+    d->click("Command3");
+    EXPECT_EQ(d->caption("lbldirname"), root.string());
+}
+
+} // namespace
+} // namespace nb::test
