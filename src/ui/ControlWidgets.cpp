@@ -49,6 +49,58 @@ template<class Base> void Clickable<Base>::mouseDoubleClickEvent(QMouseEvent *e)
 template class Clickable<QLabel>;
 template class Clickable<QWidget>;
 
+// ---- MarkButton ----
+
+template<class Base> void MarkButton<Base>::paintEvent(QPaintEvent *)
+{
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const bool enabled = this->isEnabled();
+    const double size = std::round(QFontMetricsF(this->font()).height() * 0.85);
+    const QRectF mark(2, (this->height() - size) / 2, size, size);
+    const QColor ink = enabled ? QColor(50, 60, 120) : QColor(160, 160, 170);
+    p.setPen(QPen(ink, std::max(1.5, size * 0.09)));
+    p.setBrush(enabled ? Qt::white : QColor(240, 240, 240));
+    constexpr bool round = std::is_same_v<Base, QRadioButton>;
+    if (round)
+        p.drawEllipse(mark);
+    else
+        p.drawRoundedRect(mark, size * 0.2, size * 0.2);
+    if (this->isChecked()) {
+        if (round) {
+            p.setPen(Qt::NoPen);
+            p.setBrush(enabled ? QColor(40, 90, 210) : ink);
+            p.drawEllipse(mark.adjusted(size * 0.25, size * 0.25, -size * 0.25, -size * 0.25));
+        } else {
+            QPainterPath tick;
+            tick.moveTo(mark.left() + size * 0.22, mark.top() + size * 0.52);
+            tick.lineTo(mark.left() + size * 0.42, mark.top() + size * 0.74);
+            tick.lineTo(mark.left() + size * 0.80, mark.top() + size * 0.26);
+            p.setBrush(Qt::NoBrush);
+            p.setPen(QPen(enabled ? QColor(30, 150, 60) : ink, size * 0.16, Qt::SolidLine,
+                          Qt::RoundCap, Qt::RoundJoin));
+            p.drawPath(tick);
+        }
+    }
+    const QRectF textBox = QRectF(this->rect()).adjusted(mark.right() + size * 0.4, 0, 0, 0);
+    p.setPen(this->palette().color(enabled ? QPalette::Active : QPalette::Disabled,
+                                   QPalette::WindowText));
+    p.setFont(this->font());
+    const int flags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+    // The caption as written: the button's own text has every '&' doubled.
+    const QString caption = this->text().replace("&&", "&");
+    p.drawText(textBox, flags, caption);
+    if (this->hasFocus()) {
+        const QRectF used = p.boundingRect(textBox, flags, caption).adjusted(-2, 0, 2, 0);
+        p.setPen(QPen(QColor(40, 90, 210, 200), 1, Qt::DotLine));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(used, 3, 3);
+    }
+}
+
+template class MarkButton<QCheckBox>;
+template class MarkButton<QRadioButton>;
+
 // ---- AnswerBox ----
 
 AnswerBox::AnswerBox(ScreenView &view, int slot, QWidget *parent)
@@ -132,6 +184,8 @@ void FaceButton::paintEvent(QPaintEvent *)
 
     const bool enabled = isEnabled();
     const bool down = isDown();
+    if (!picture_.empty() && pictureRenderer(picture_))
+        return paintPicture(p, enabled, down);
     QColor base = back_;
     if (!enabled)
         base = QColor::fromHsv(base.hsvHue(), base.hsvSaturation() / 3,
@@ -165,16 +219,26 @@ void FaceButton::paintEvent(QPaintEvent *)
 
     const double pad = std::min(face.width(), face.height()) * 0.06;
     const QRectF inner = face.adjusted(pad, pad, -pad, -pad);
-    if (!picture_.empty()) {
-        p.setOpacity(enabled ? 1.0 : 0.45);
-        const bool painted = cache_.paint(p, picture_, inner);
-        p.setOpacity(1.0);
-        if (painted)
-            return;
-    }
     p.setPen(enabled ? fore_ : QColor(140, 140, 150));
     p.setFont(font());
     p.drawText(inner, Qt::AlignCenter | Qt::TextWordWrap, caption_);
+}
+
+void FaceButton::paintPicture(QPainter &p, bool enabled, bool down)
+{
+    // The picture is the whole face: pressing nudges it down, a disabled one is faded.
+    const double pad = std::min(width(), height()) * 0.03;
+    const double shift = down ? std::max(1.0, height() * 0.02) : 0.0;
+    const QRectF inner = QRectF(rect()).adjusted(pad, pad + shift, -pad, -pad + shift);
+    p.setOpacity(enabled ? 1.0 : 0.45);
+    cache_.paint(p, picture_, inner);
+    p.setOpacity(1.0);
+    if (hasFocus()) {
+        const double radius = std::min(inner.width(), inner.height()) * 0.12;
+        p.setPen(QPen(QColor(40, 90, 210, 200), std::clamp(height() * 0.015, 2.0, 4.0)));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(inner, radius, radius);
+    }
 }
 
 // ---- PictureView ----

@@ -36,18 +36,19 @@ protected:
 
 using ClickLabel = Clickable<QLabel>;
 
-// A check box or option button that reacts to a click anywhere in its box, not only on its
-// mark and caption.
-template<class Base> class WholeBoxButton : public Base
+// A check box or option button drawn to the layout's scale (the mark grows with the font) that
+// reacts to a click anywhere in its box, not only on its mark and caption.
+template<class Base> class MarkButton : public Base
 {
 public:
     using Base::Base;
 
 protected:
     bool hitButton(const QPoint &pos) const override { return this->rect().contains(pos); }
+    void paintEvent(QPaintEvent *) override;
 };
-using CheckBoxView = WholeBoxButton<QCheckBox>;
-using OptionView = WholeBoxButton<QRadioButton>;
+using CheckBoxView = MarkButton<QCheckBox>;
+using OptionView = MarkButton<QRadioButton>;
 
 // A text box: keys that type something (and Enter, Backspace, Escape) go to the model before
 // they reach the box; the model may swallow or replace them.
@@ -81,6 +82,8 @@ protected:
     void keyPressEvent(QKeyEvent *e) override;
 
 private:
+    void paintPicture(QPainter &p, bool enabled, bool down);
+
     QColor back_;
     QColor fore_;
     QString caption_;

@@ -9,10 +9,13 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QListWidget>
 #include <QPointer>
+#include <QPrinterInfo>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -390,6 +393,21 @@ TEST_F(WindowTest, UnchangedDrawingIsNotRenderedAgain)
     click("board"); // adds a shape: new revision
     board->repaint();
     EXPECT_EQ(board->renders(), first + 1);
+}
+
+TEST_F(WindowTest, PrintingWithoutAPrinterSavesAPdf)
+{
+    if (!QPrinterInfo::defaultPrinter().isNull())
+        GTEST_SKIP() << "this machine has a printer";
+    Probe &p = open();
+    QTemporaryDir dir;
+    const std::string path = dir.filePath("screen.pdf").toStdString();
+    const PrintOutcome out = platform.printScreen(p, path);
+    EXPECT_EQ(out.kind, PrintOutcome::Kind::SavedPdf);
+    EXPECT_EQ(out.detail, path);
+    EXPECT_GT(QFileInfo(QString::fromStdString(path)).size(), 1000);
+    EXPECT_EQ(platform.printScreen(p, dir.filePath("no/such/folder/x.pdf").toStdString()).kind,
+              PrintOutcome::Kind::Failed);
 }
 
 TEST_F(WindowTest, EndingTheProgramClosesTheWindow)
