@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QString>
 
 #include <cstdint>
 #include <string>
@@ -19,6 +20,11 @@ constexpr double kTwipsPerPixel = 15;
 constexpr bool hasColor(std::uint32_t c)
 {
     return (c & 0xFF000000u) == 0;
+}
+
+inline QString qs(const std::string &s)
+{
+    return QString::fromStdString(s);
 }
 
 // 0x00BBGGRR to a QColor.

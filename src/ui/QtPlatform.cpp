@@ -1,5 +1,6 @@
 #include "ui/QtPlatform.h"
 
+#include "ui/Look.h"
 #include "ui/MainWindow.h"
 #include "ui/ScreenView.h"
 
@@ -16,11 +17,6 @@
 namespace nb::ui {
 
 namespace {
-
-QString qs(const std::string &s)
-{
-    return QString::fromStdString(s);
-}
 
 QMessageBox::Icon iconOf(MsgIcon icon)
 {

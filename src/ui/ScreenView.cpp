@@ -28,11 +28,6 @@ template<class T> bool changed(T &last, const T &now)
     return true;
 }
 
-QString qs(const std::string &s)
-{
-    return QString::fromStdString(s);
-}
-
 // Labels, pictures, shapes and lines lie under the controls a pupil types into or presses.
 bool isGraphical(ControlKind k)
 {
@@ -63,6 +58,36 @@ void setColors(QWidget &w, QPalette::ColorRole backRole, QPalette::ColorRole tex
     for (QPalette::ColorGroup g : {QPalette::Active, QPalette::Inactive})
         pal.setColor(g, textRole, colorOr(fore, defaultFore));
     w.setPalette(pal);
+}
+
+void selectRow(QListWidget &w, int row)
+{
+    if (w.currentRow() != row)
+        w.setCurrentRow(row);
+}
+
+void selectRow(QComboBox &w, int row)
+{
+    if (w.currentIndex() != row)
+        w.setCurrentIndex(row);
+}
+
+// A list box or drop-down list: its items, the selected one and its colours.
+template<class W> void showItems(W &w, const Control &c, bool items, bool row, bool colors)
+{
+    const QSignalBlocker quiet(&w);
+    if (items) {
+        QStringList list;
+        for (const std::string &s : c.items)
+            list << qs(s);
+        w.clear();
+        w.addItems(list);
+    }
+    if (row)
+        selectRow(w, c.listIndex);
+    if (colors)
+        setColors(w, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
+                  Qt::black);
 }
 
 // Captions of stock Qt buttons treat '&' as a shortcut marker; ours are plain text.
@@ -400,36 +425,12 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
         if (colors && !geometry)
             place(b, c);
         break;
-    case ControlKind::List: {
-        auto *lw = static_cast<QListWidget *>(w);
-        const QSignalBlocker quiet(lw);
-        if (items) {
-            lw->clear();
-            for (const std::string &s : c.items)
-                lw->addItem(qs(s));
-        }
-        if (row && lw->currentRow() != c.listIndex)
-            lw->setCurrentRow(c.listIndex);
-        if (colors)
-            setColors(*lw, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
-                      Qt::black);
+    case ControlKind::List:
+        showItems(*static_cast<QListWidget *>(w), c, items, row, colors);
         break;
-    }
-    case ControlKind::ComboBox: {
-        auto *cb = static_cast<QComboBox *>(w);
-        const QSignalBlocker quiet(cb);
-        if (items) {
-            cb->clear();
-            for (const std::string &s : c.items)
-                cb->addItem(qs(s));
-        }
-        if (row && cb->currentIndex() != c.listIndex)
-            cb->setCurrentIndex(c.listIndex);
-        if (colors)
-            setColors(*cb, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
-                      Qt::black);
+    case ControlKind::ComboBox:
+        showItems(*static_cast<QComboBox *>(w), c, items, row, colors);
         break;
-    }
     case ControlKind::Canvas: {
         auto *cv = static_cast<CanvasView *>(w);
         cv->setDrawing(c.drawing);
