@@ -1,19 +1,18 @@
 // The questions of every drill, from many draws of the real seeded generator: operands in their
 // ranges, every question type of a level turning up, answers within what the level promises;
 // and the draw order, through the screens with scripted draws.
+#include "DrillTestSupport.h"
 #include "core/NumberText.h"
 #include "core/Random.h"
 #include "drills/MakeDrill.h"
 #include "drills/add11.h"
 #include "drills/sub11.h"
-#include "support/Driver.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <climits>
 #include <cmath>
-#include <functional>
 #include <map>
 #include <set>
 
@@ -267,137 +266,58 @@ TEST(DrillQuestions, MakeScreensCompleteTheirTotals)
     }
 }
 
-// Samples questions through a screen with the platform's seeded generator, answering each
-// right; `seen` reads the question on show.
-void sample(Driver &d, const std::string &screen, const std::string &box, int questions,
-            const std::function<double(Driver &)> &seen)
-{
-    d.open(screen);
-    d.click("Command11");
-    for (int i = 1; i <= questions; ++i) {
-        const double answer = seen(d);
-        if (i % 10 == 0)
-            d.platform.queueYes();
-        d.typeEnter(box, numberText(answer));
-        ASSERT_EQ(d.platform.beeps, i) << d.caption("text1") << " " << d.caption("text3");
-    }
-}
-
-double number(Driver &d, const char *name)
-{
-    return readNumber(d.caption(name));
-}
-
-TEST(DrillQuestions, TimesTablesAndMentalTimes)
+// The multiplication and division screens, sampled with the negatives flags at 0 and at 1: the
+// sizes of the two numbers shown and of the answer span exactly their ranges, every answer is
+// whole, and negative numbers turn up only on screens with the option, when it is on.
+TEST(DrillQuestions, TimesAndDivisionScreens)
 {
     struct Case
     {
         const char *screen;
-        Span first, second;
-    };
-    for (const Case &c : {Case{"mul11", {1, 10}, {1, 10}}, Case{"mentmul", {10, 59}, {1, 10}}}) {
-        Driver d;
-        Span first, second;
-        sample(d, c.screen, "Text5", 3000, [&](Driver &dr) {
-            first.add(int(number(dr, "text1")));
-            second.add(int(number(dr, "text3")));
-            return number(dr, "text1") * number(dr, "text3");
-        });
-        EXPECT_EQ(first, c.first) << c.screen;
-        EXPECT_EQ(second, c.second) << c.screen;
-    }
-}
-
-TEST(DrillQuestions, DivisionHasWholeQuotientsAndTheLevelRaisesThem)
-{
-    struct Case
-    {
-        int level, negatives;
-        Span quotient, divisor; // sizes, without signs
-    };
-    const Case cases[] = {{1, 0, {1, 10}, {2, 10}},
-                          {2, 0, {11, 20}, {2, 10}},
-                          {1, 1, {1, 10}, {2, 10}},
-                          {2, 1, {11, 20}, {2, 10}}};
-    for (const Case &c : cases) {
-        Driver d;
-        d.progress().DivLevel = Value::int16(std::int16_t(c.level));
-        d.progress().DivNegatives = Value::int16(std::int16_t(c.negatives));
-        Span quotient, divisor;
-        std::set<std::pair<bool, bool>> signs;
-        sample(d, "div11", "Text5", 2000, [&](Driver &dr) {
-            const double q = number(dr, "text1") / number(dr, "text3");
-            EXPECT_EQ(q, std::round(q));
-            quotient.add(std::abs(int(q)));
-            divisor.add(std::abs(int(number(dr, "text3"))));
-            signs.insert({q < 0, number(dr, "text3") < 0});
-            return q;
-        });
-        EXPECT_EQ(quotient, c.quotient);
-        EXPECT_EQ(divisor, c.divisor);
-        EXPECT_EQ(signs.size(), c.negatives ? 4u : 1u);
-    }
-}
-
-TEST(DrillQuestions, MissingNumberScreensHideAWholeFactor)
-{
-    struct Case
-    {
-        const char *screen;
-        Value PupilProgress::*negatives;
-        const char *product, *known;
-        Span hidden, knownSpan;
+        int level;
+        Span text1, other, answer; // sizes, without signs; "other" is text3 or Text5
+        bool hasNegatives;
     };
     const Case cases[] = {
-        {"maketentimes", &PupilProgress::MulNegatives, "Text5", "text1", {1, 10}, {1, 10}},
-        {"maketendiv", &PupilProgress::DivNegatives, "text1", "Text5", {2, 10}, {1, 10}},
+        {"mul11", 1, {1, 10}, {1, 10}, {1, 100}, false},
+        {"mentmul", 1, {10, 59}, {1, 10}, {10, 590}, false},
+        {"div11", 1, {2, 100}, {2, 10}, {1, 10}, true},
+        {"div11", 2, {22, 200}, {2, 10}, {11, 20}, true},
+        {"maketentimes", 1, {1, 10}, {1, 100}, {1, 10}, true},
+        {"maketendiv", 1, {2, 100}, {1, 10}, {2, 10}, true},
     };
     for (const Case &c : cases) {
         for (int neg : {0, 1}) {
+            SCOPED_TRACE(std::string(c.screen) + " level " + std::to_string(c.level) +
+                         (neg ? " negatives" : ""));
             Driver d;
-            d.progress().*c.negatives = Value::int16(std::int16_t(neg));
-            Span hidden, known;
+            d.progress().DivLevel = Value::int16(std::int16_t(c.level));
+            d.progress().DivNegatives = d.progress().MulNegatives = Value::int16(std::int16_t(neg));
+            const DrillCase &drill = test::drill(c.screen);
+            const char *other = std::string(drill.box) == "text3" ? "Text5" : "text3";
+            Span text1, otherSpan, answer;
             bool negative = false;
-            sample(d, c.screen, "text3", 2000, [&](Driver &dr) {
-                const double x = number(dr, c.product) / number(dr, c.known);
-                hidden.add(std::abs(int(x)));
-                known.add(std::abs(int(number(dr, c.known))));
-                negative |= x < 0 || number(dr, c.known) < 0;
-                return x;
-            });
-            EXPECT_EQ(hidden, c.hidden) << c.screen;
-            EXPECT_EQ(known, c.knownSpan) << c.screen;
-            EXPECT_EQ(negative, neg == 1) << c.screen;
+            d.open(c.screen);
+            d.click("Command11");
+            for (int i = 1; i <= 2000; ++i) {
+                const double a = shownNumber(d, "text1"), b = shownNumber(d, other);
+                const double x = rightAnswer(d, drill);
+                ASSERT_EQ(x, std::round(x)) << a << " " << b;
+                text1.add(std::abs(int(a)));
+                otherSpan.add(std::abs(int(b)));
+                answer.add(std::abs(int(x)));
+                negative |= a < 0 || b < 0;
+                if (i % 10 == 0)
+                    d.platform.queueYes();
+                answerRight(d, drill);
+                ASSERT_EQ(d.platform.beeps, i);
+            }
+            EXPECT_EQ(text1, c.text1);
+            EXPECT_EQ(otherSpan, c.other);
+            EXPECT_EQ(answer, c.answer);
+            EXPECT_EQ(negative, neg == 1 && c.hasNegatives);
         }
     }
-}
-
-// Scripted: -12 ÷ 3 takes -4; 3 × [?] = -21 takes -7 and nothing else.
-TEST(DrillQuestions, NegativeQuotientsAndFactors)
-{
-    Driver d;
-    d.progress().DivLevel = Value::int16(1);
-    d.progress().DivNegatives = Value::int16(1);
-    d.open("div11");
-    d.platform.queueDraws({0.35, 0.15, 0.1, 0.9});
-    d.click("Command11");
-    EXPECT_EQ(d.caption("text1"), "-12");
-    EXPECT_EQ(d.caption("text2"), "\u00f7");
-    EXPECT_EQ(d.caption("text3"), "3");
-    d.typeEnter("Text5", "-4");
-    EXPECT_EQ(d.caption("score"), "1");
-
-    Driver t;
-    t.progress().MulNegatives = Value::int16(1);
-    t.open("maketentimes");
-    t.platform.queueDraws({0.25, 0.65, 0.9, 0.1});
-    t.click("Command11");
-    EXPECT_EQ(t.caption("text1"), "3");
-    EXPECT_EQ(t.caption("Text5"), "-21");
-    t.typeEnter("text3", "7");
-    EXPECT_EQ(t.caption("time"), "2");
-    t.typeEnter("text3", "-7");
-    EXPECT_EQ(t.caption("score"), "1");
 }
 
 } // namespace
