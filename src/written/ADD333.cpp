@@ -8,33 +8,23 @@ namespace {
 // The digit labels in drawing order: each number's hundreds, tens and units.
 constexpr const char *kDigitLabels[9] = {"text1", "text3",  "Text5",  "text10", "text4",
                                          "text2", "text20", "text19", "text18"};
-constexpr int kSignColumn = 1, kThousands = 2, kHundreds = 3, kTens = 4, kUnits = 5;
-constexpr int kAnswerRow = 4, kCarryRow = 5;
 } // namespace
 
 Add333::Add333(App &app)
     : CarryMethod(app, &PupilProgress::ColumnAddBest, "addmenu")
 {
-    headings(kThousands, 0, {"Th", "H", "T", "U"});
+    headings(kThousandsColumn, 0, {"Th", "H", "T", "U"});
     for (int i = 0; i < 9; ++i)
-        digitLabel(kDigitLabels[i], kHundreds + i % 3, 1 + i / 3);
+        digitLabel(kDigitLabels[i], kHundredsColumn + i % 3, 1 + i / 3);
     signLabel("+", kSignColumn, 3);
-    rules(kAnswerRow, kSignColumn, kUnits, true);
-    answerBox("Text14", "thousands", kThousands, kAnswerRow);
-    answerBox("Text13", "hundreds", kHundreds, kAnswerRow);
-    answerBox("Text12", "tens", kTens, kAnswerRow);
-    answerBox("Text11", "units", kUnits, kAnswerRow);
-    carryBox("Text16", "carry into the hundreds", kHundreds, kCarryRow);
-    carryBox("Text15", "carry into the tens", kTens, kCarryRow);
+    buildAnswerRows(4, true);
 }
 
 void Add333::newQuestion()
 {
-    for (int i = 0; i < 9; ++i) {
-        // A number's hundreds digit is 1 to 9, its tens and units 0 to 9.
-        digits_[i] = i % 3 == 0 ? int(draw() * 9 + 1) : int(draw() * 10);
-        caption(kDigitLabels[i]) = numberText(digits_[i]);
-    }
+    // A number's hundreds digit is 1 to 9, its tens and units 0 to 9.
+    for (int i = 0; i < 9; ++i)
+        digits_[i] = i % 3 == 0 ? drawDigit(kDigitLabels[i], 9, 1) : drawDigit(kDigitLabels[i], 10);
     const auto column = [this](int place) {
         return digits_[place] + digits_[3 + place] + digits_[6 + place];
     };

@@ -19,6 +19,19 @@ const StepInfo &info(int step)
 }
 } // namespace
 
+void CarryMethod::buildAnswerRows(int answerRow, bool toThousands)
+{
+    rules(answerRow, kSignColumn, kUnitsColumn, true);
+    if (toThousands)
+        answerBox("Text14", "thousands", kThousandsColumn, answerRow);
+    answerBox("Text13", "hundreds", kHundredsColumn, answerRow);
+    answerBox("Text12", "tens", kTensColumn, answerRow);
+    answerBox("Text11", "units", kUnitsColumn, answerRow);
+    if (toThousands)
+        carryBox("Text16", "carry into the hundreds", kHundredsColumn, answerRow + 1);
+    carryBox("Text15", "carry into the tens", kTensColumn, answerRow + 1);
+}
+
 void CarryMethod::beginQuestion(int unitsTotal, int tensTotal, int hundredsTotal)
 {
     unitsTotal_ = unitsTotal;

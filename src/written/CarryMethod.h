@@ -15,6 +15,9 @@ class CarryMethod : public WrittenFrame
 protected:
     using WrittenFrame::WrittenFrame;
 
+    // The answer row with its rules, and the carry boxes in the row under it. Without
+    // `toThousands` the answer stops at the hundreds and only the tens have a carry box.
+    void buildAnswerRows(int answerRow, bool toThousands);
     // Starts a question whose column totals (sums or products of the digits) are given.
     void beginQuestion(int unitsTotal, int tensTotal, int hundredsTotal);
     // Shows the boxes of the current step, the active one yellow and the only one taking input.

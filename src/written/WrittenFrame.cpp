@@ -32,16 +32,18 @@ WrittenFrame::WrittenFrame(App &app, Value PupilProgress::*best, std::string men
     setSize(12000, 9000);
     setBackColor(kDesk);
 
-    // Squared paper with a red margin, drawn once; the sum sits on its squares.
+    // Squared paper with a red margin; the sum sits on its squares. Drawn with shapes and lines
+    // so that it lies under the digits.
     const int right = cellX(kPageColumns);
     const int bottom = cellY(kPageRows);
-    Control &paper = canvas("paper", kPageLeft, kPageTop, right - kPageLeft, bottom - kPageTop);
-    Drawing &d = paper.drawing;
-    d.rect(0, 0, right - kPageLeft, bottom - kPageTop, kPaper, kSquares, 30);
+    shape("paper", ShapeKind::Rectangle, kPaper, kSquares, kPageLeft, kPageTop, right - kPageLeft,
+          bottom - kPageTop)
+        .lineWidth = 30;
+    int gridLine = 0;
     for (int c = 1; c < kPageColumns; ++c)
-        d.line(c * kCell, 0, c * kCell, bottom - kPageTop, kSquares, 15);
+        line("grid", cellX(c), kPageTop, cellX(c), bottom, kSquares, gridLine++);
     for (int r = 1; r < kPageRows; ++r)
-        d.line(0, r * kCell, right - kPageLeft, r * kCell, kSquares, 15);
+        line("grid", kPageLeft, cellY(r), right, cellY(r), kSquares, gridLine++);
     shape("Shape1", ShapeKind::Rectangle, kMargin, kMargin, kPageLeft + kCell / 2, kPageTop, 30,
           bottom - kPageTop);
 
@@ -196,6 +198,13 @@ void WrittenFrame::onKeyPress(const std::string &name, int index, int &key)
 double WrittenFrame::keyReference(const std::string &box)
 {
     return readNumber(caption(box));
+}
+
+int WrittenFrame::drawDigit(const char *label, int n, int lo)
+{
+    const int value = int(draw() * n) + lo;
+    caption(label) = numberText(value);
+    return value;
 }
 
 void WrittenFrame::startExercise()

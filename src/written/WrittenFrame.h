@@ -36,6 +36,9 @@ protected:
     static constexpr int kPageTop = 480;
     static constexpr int kPageColumns = 7;
     static constexpr int kPageRows = 7;
+    // The columns every sum uses: its sign on the left, then thousands to units.
+    static constexpr int kSignColumn = 1, kThousandsColumn = 2, kHundredsColumn = 3,
+                         kTensColumn = 4, kUnitsColumn = 5;
     static int cellX(int column) { return kPageLeft + column * kCell; }
     static int cellY(int row) { return kPageTop + row * kCell; }
 
@@ -63,6 +66,9 @@ protected:
     virtual void finishExercise();
     // Clicks on controls other than Start, Next and Exit.
     virtual void onPageClick(const std::string &name, int index) { (void)name, (void)index; }
+
+    // Draws a whole number Int(n r) + lo, shows it in `label` and returns it.
+    int drawDigit(const char *label, int n, int lo = 0);
 
     void startExercise();
     void backToMenu();

@@ -5,7 +5,6 @@
 namespace nb {
 
 namespace {
-constexpr int kSignColumn = 1, kHundreds = 3, kTens = 4, kUnits = 5;
 constexpr int kExchangeRow = 1, kTopRow = 2, kBottomRow = 3, kAnswerRow = 4;
 // Exchanges are written in red, as a teacher would.
 constexpr std::uint32_t kExchangeInk = rgb(215, 40, 40);
@@ -17,18 +16,18 @@ const char *const kPrompts[] = {"Enter the units.", "Enter the tens.", "Enter th
 Sub33::Sub33(App &app)
     : WrittenFrame(app, &PupilProgress::ColumnSubBest, "submenu")
 {
-    headings(kHundreds, 0, {"H", "T", "U"});
-    digitLabel("Label1", kHundreds, kTopRow);
-    digitLabel("Label2", kTens, kTopRow);
-    digitLabel("Text5", kUnits, kTopRow);
+    headings(kHundredsColumn, 0, {"H", "T", "U"});
+    digitLabel("Label1", kHundredsColumn, kTopRow);
+    digitLabel("Label2", kTensColumn, kTopRow);
+    digitLabel("Text5", kUnitsColumn, kTopRow);
     signLabel("\u2212", kSignColumn, kBottomRow);
-    digitLabel("text10", kHundreds, kBottomRow);
-    digitLabel("text4", kTens, kBottomRow);
-    digitLabel("text2", kUnits, kBottomRow);
+    digitLabel("text10", kHundredsColumn, kBottomRow);
+    digitLabel("text4", kTensColumn, kBottomRow);
+    digitLabel("text2", kUnitsColumn, kBottomRow);
 
     // A top digit that gave is crossed out and rewritten above its column.
     for (int i = 0; i < 2; ++i) {
-        const int x = cellX(kHundreds + i);
+        const int x = cellX(kHundredsColumn + i);
         Control &strike = line("strike", x + 250, cellY(kTopRow) + kCell - 150, x + kCell - 250,
                                cellY(kTopRow) + 170, kExchangeInk, i);
         strike.lineWidth = 30;
@@ -43,8 +42,8 @@ Sub33::Sub33(App &app)
         c.align = Align::Center;
         c.visible = false;
     };
-    rewritten("Text16", kHundreds);
-    rewritten("Text15", kTens);
+    rewritten("Text16", kHundredsColumn);
+    rewritten("Text15", kTensColumn);
     // The small "1"s go just in front of the digit that received the exchange.
     const auto smallOne = [this](const char *name, int column, int row, int top) {
         Control &c = label(name, "1", cellX(column) + 50, cellY(row) + top, 260, 480);
@@ -54,14 +53,14 @@ Sub33::Sub33(App &app)
         c.align = Align::Right;
         c.visible = false;
     };
-    smallOne("Text14", kTens, kTopRow, 380);
-    smallOne("text18", kUnits, kTopRow, 380);
-    smallOne("text19", kTens, kExchangeRow, 420);
+    smallOne("Text14", kTensColumn, kTopRow, 380);
+    smallOne("text18", kUnitsColumn, kTopRow, 380);
+    smallOne("text19", kTensColumn, kExchangeRow, 420);
 
-    rules(kAnswerRow, kSignColumn, kUnits, false);
-    answerBox("Text13", "hundreds", kHundreds, kAnswerRow);
-    answerBox("Text12", "tens", kTens, kAnswerRow);
-    answerBox("Text11", "units", kUnits, kAnswerRow);
+    rules(kAnswerRow, kSignColumn, kUnitsColumn, false);
+    answerBox("Text13", "hundreds", kHundredsColumn, kAnswerRow);
+    answerBox("Text12", "tens", kTensColumn, kAnswerRow);
+    answerBox("Text11", "units", kUnitsColumn, kAnswerRow);
 
     Control &hint =
         label("hint", "Top digit too small? Click the top digit on its left to exchange.", 8000,
@@ -72,19 +71,13 @@ Sub33::Sub33(App &app)
 
 void Sub33::newQuestion()
 {
-    topHundreds_ = int(draw() * 9) + 1;
-    caption("Label1") = numberText(topHundreds_);
-    topTens_ = int(draw() * 10);
-    caption("Label2") = numberText(topTens_);
-    topUnits_ = int(draw() * 10);
-    caption("Text5") = numberText(topUnits_);
+    topHundreds_ = drawDigit("Label1", 9, 1);
+    topTens_ = drawDigit("Label2", 10);
+    topUnits_ = drawDigit("Text5", 10);
     // Always below the top hundreds digit, so the difference is at least 1.
-    bottomHundreds_ = int(draw() * topHundreds_);
-    caption("text10") = numberText(bottomHundreds_);
-    bottomTens_ = int(draw() * 10);
-    caption("text4") = numberText(bottomTens_);
-    bottomUnits_ = int(draw() * 10);
-    caption("text2") = numberText(bottomUnits_);
+    bottomHundreds_ = drawDigit("text10", topHundreds_);
+    bottomTens_ = drawDigit("text4", 10);
+    bottomUnits_ = drawDigit("text2", 10);
 
     difference_ = (topHundreds_ * 100 + topTens_ * 10 + topUnits_) -
                   (bottomHundreds_ * 100 + bottomTens_ * 10 + bottomUnits_);

@@ -1,37 +1,23 @@
 #include "written/times2.h"
 
-#include "core/NumberText.h"
-
 namespace nb {
-
-namespace {
-constexpr int kSignColumn = 1, kHundreds = 3, kTens = 4, kUnits = 5;
-constexpr int kAnswerRow = 4, kCarryRow = 5;
-} // namespace
 
 Times2::Times2(App &app)
     : CarryMethod(app, &PupilProgress::Mul21Best, "mulmenu")
 {
-    headings(kHundreds, 1, {"H", "T", "U"});
-    digitLabel("text3", kTens, 2);
-    digitLabel("Text5", kUnits, 2);
+    headings(kHundredsColumn, 1, {"H", "T", "U"});
+    digitLabel("text3", kTensColumn, 2);
+    digitLabel("Text5", kUnitsColumn, 2);
     signLabel("\u00d7", kSignColumn, 3);
-    digitLabel("text2", kUnits, 3);
-    rules(kAnswerRow, kSignColumn, kUnits, true);
-    answerBox("Text13", "hundreds", kHundreds, kAnswerRow);
-    answerBox("Text12", "tens", kTens, kAnswerRow);
-    answerBox("Text11", "units", kUnits, kAnswerRow);
-    carryBox("Text15", "carry into the tens", kTens, kCarryRow);
+    digitLabel("text2", kUnitsColumn, 3);
+    buildAnswerRows(4, false);
 }
 
 void Times2::newQuestion()
 {
-    tens_ = int(draw() * 8 + 2);
-    caption("text3") = numberText(tens_);
-    units_ = int(draw() * 10);
-    caption("Text5") = numberText(units_);
-    multiplier_ = int(draw() * 6 + 4);
-    caption("text2") = numberText(multiplier_);
+    tens_ = drawDigit("text3", 8, 2);
+    units_ = drawDigit("Text5", 10);
+    multiplier_ = drawDigit("text2", 6, 4);
     product_ = (tens_ * 10 + units_) * multiplier_;
     answerWidth_ = product_ <= 99 ? 2 : 3;
     beginQuestion(units_ * multiplier_, tens_ * multiplier_, 0);
