@@ -642,42 +642,31 @@ void ScreenView::typeKey(int slot, AnswerBox &box, QKeyEvent *e, int code)
     window_.afterEvent(false);
 }
 
-void ScreenView::textEdited(int slot, const QString &text)
+template<class T> void ScreenView::reportChange(int slot, T Control::*field, T value)
 {
-    if (applyingKey_)
-        return;
     Control *c = liveControl(slot);
-    if (!c)
+    if (!c || c->*field == value)
         return;
-    std::string t = text.toStdString();
-    if (t == c->caption)
-        return;
-    c->caption = std::move(t);
+    c->*field = std::move(value);
     const std::string name = c->name;
     app_.change(*screen_, name, c->index);
     window_.afterEvent(false);
+}
+
+void ScreenView::textEdited(int slot, const QString &text)
+{
+    if (!applyingKey_)
+        reportChange(slot, &Control::caption, text.toStdString());
 }
 
 void ScreenView::selectionChanged(int slot, int row)
 {
-    Control *c = liveControl(slot);
-    if (!c || c->listIndex == row)
-        return;
-    c->listIndex = row;
-    const std::string name = c->name;
-    app_.change(*screen_, name, c->index);
-    window_.afterEvent(false);
+    reportChange(slot, &Control::listIndex, row);
 }
 
 void ScreenView::scrolled(int slot, int value)
 {
-    Control *c = liveControl(slot);
-    if (!c || c->value == value)
-        return;
-    c->value = value;
-    const std::string name = c->name;
-    app_.change(*screen_, name, c->index);
-    window_.afterEvent(false);
+    reportChange(slot, &Control::value, value);
 }
 
 void ScreenView::timerFired(int slot)

@@ -79,6 +79,8 @@ private:
     };
 
     Control *liveControl(int slot);
+    // Stores what the pupil changed in the control and reports it, unless nothing changed.
+    template<class T> void reportChange(int slot, T Control::*field, T value);
     void buildNew();
     void dropAll();
     void make(Bound &b, const Control &c, int slot);
