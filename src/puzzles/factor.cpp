@@ -50,14 +50,17 @@ Factor::Factor(App &app)
     : Screen(app)
 {
     setSize(kWidth, kHeight);
-    setBackColor(rgb(150, 210, 120));
+    setBackColor(rgb(255, 246, 220));
     buildControls();
 }
 
 void Factor::buildControls()
 {
-    // The canvas comes first so that every other control lies on top of it.
-    canvas("road", 0, 0, kWidth, kHeight);
+    // The road and its scenery fill the left of the screen; the controls stand on plain
+    // colour to the right of it. The canvas comes first so the cars lie on top of it.
+    canvas("road", 0, 0, kPanelLeft, kHeight);
+    shape("rim", ShapeKind::Rectangle, rgb(43, 90, 168), rgb(43, 90, 168), kPanelLeft, 0, 60,
+          kHeight);
 
     Control &heading = label("Label2", "Find the factors of", 7450, 450, 4300, 600);
     styled(heading, 20, true, Align::Center).foreColor = rgb(30, 60, 140);
@@ -114,12 +117,20 @@ void Factor::drawScenery()
 {
     Drawing &d = ctl("road").drawing;
     d.clear();
-    // Sky, hills, grass and the card behind the controls.
-    d.image(0, 0, kWidth, kHeight, "factor_scenery.svg");
+    // Sky, hills, grass and flowers.
+    d.image(0, 0, kPanelLeft, kHeight, "factor_scenery.svg");
+
+    // A silver ground under the road fills the hairline seams that smoothing leaves between
+    // its lines at small window sizes, and carries the road on to the bottom of the screen.
+    d.polygon({{roadLeftAt(kRoadTop), kRoadTop},
+               {roadRightAt(kRoadTop), kRoadTop},
+               {roadRightAt(kHeight), kHeight},
+               {roadLeftAt(kHeight), kHeight}},
+              colors::silver, colors::silver, 1);
 
     // Red and white kerbs along both edges, shorter and thinner towards the top.
     bool red = true;
-    for (double y0 = kRoadBottom; y0 > kRoadTop;) {
+    for (double y0 = kHeight; y0 > kRoadTop;) {
         const double y1 = std::max<double>(kRoadTop, y0 - std::max(45.0, 330 * scaleAt(y0)));
         const double w0 = 150 * scaleAt(y0), w1 = 150 * scaleAt(y1);
         const std::uint32_t c = red ? rgb(225, 45, 45) : colors::white;
@@ -141,7 +152,7 @@ void Factor::drawScenery()
 
     // White dashes down the middle, dividing the two cars' lanes.
     const double mid = (kRoadLeft + kRoadRight) / 2.0;
-    for (double y0 = kRoadBottom - 60; y0 > kRoadTop + 40;) {
+    for (double y0 = kHeight; y0 > kRoadTop + 40;) {
         const double y1 = std::max<double>(kRoadTop, y0 - 380 * scaleAt(y0));
         const double h0 = 40 * scaleAt(y0), h1 = 40 * scaleAt(y1);
         d.polygon({{mid - h0, y0}, {mid + h0, y0}, {mid + h1, y1}, {mid - h1, y1}}, colors::white,
@@ -158,7 +169,7 @@ void Factor::drawScenery()
 
     // The finishing line: two rows of black and white squares from y = 7085 down.
     constexpr int kSquares = 28;
-    constexpr double kRow = 60;
+    constexpr double kRow = 75;
     for (int row = 0; row < 2; ++row) {
         const double yt = kFinishY + row * kRow, yb = yt + kRow;
         const double lt = roadLeftAt(yt), wt = roadRightAt(yt) - lt;
