@@ -11,7 +11,7 @@ class MenuLayout
 {
 public:
     static constexpr int kLeft = 600;
-    static constexpr int kColumnStep = 3900;
+    static constexpr int kColumnStep = 3700;
     static constexpr int kTop = 1950;
     static constexpr int kRowStep = 900;
     static constexpr int kButtonWidth = 3300;

@@ -1,6 +1,7 @@
 #include "shell/TopicMenu.h"
 
 #include "core/App.h"
+#include "shell/MenuLayout.h"
 
 namespace nb {
 
@@ -20,7 +21,8 @@ void TopicMenu::buildFrame(const std::string &heading, std::uint32_t theme)
     title.foreColor = rgb(40, 40, 120);
     shape("Shape1", ShapeKind::RoundedRectangle, rgb(255, 255, 255), rgb(40, 40, 120), 300, 1200,
           kWidth - 600, kHeight - 2700);
-    Control &puzzles = label("Label1", "PUZZLES", 8400, 1350, 3000, 500);
+    Control &puzzles =
+        label("Label1", "PUZZLES", MenuLayout::columnX(2), 1350, MenuLayout::kButtonWidth, 500);
     puzzles.font.points = 16;
     puzzles.font.bold = true;
     puzzles.align = Align::Center;

@@ -59,7 +59,6 @@ PairMenu::PairMenu(App &app)
     heading(*this, "lblFourRow", "Four in a row", 0, 3).width = 2 * MenuLayout::kColumnStep;
     for (int i = 0; i < 3; ++i) {
         Control &lev = grid.button("fourlev", "LEVEL " + std::to_string(i + 1), i, 4, i);
-        lev.top -= 150;
         lev.height = 600;
         addAction({"fourlev",
                    i,
@@ -68,10 +67,34 @@ PairMenu::PairMenu(App &app)
                    {}});
         pictureButton("fourinrow", "Four in a row board " + std::to_string(i + 1),
                       "fourrow" + std::to_string(i + 1) + ".svg", MenuLayout::columnX(i),
-                      MenuLayout::rowY(5) - 200, MenuLayout::kButtonWidth, 1150, i);
+                      MenuLayout::rowY(5) - 150, MenuLayout::kButtonWidth, 1100, i);
         addAction({"fourinrow", i, false,
                    [i](PupilProgress &p) { p.FourRowOptionA = Value::int16(std::int16_t(i + 1)); },
                    "twoplayerfourinarow"});
+    }
+}
+
+void PairMenu::onOpened()
+{
+    TopicMenu::onOpened();
+    showChosenLevel();
+}
+
+void PairMenu::onClick(const std::string &name, int index)
+{
+    TopicMenu::onClick(name, index);
+    if (name == "fourlev")
+        showChosenLevel();
+}
+
+void PairMenu::showChosenLevel()
+{
+    // The level buttons stay on this menu, so the chosen one is marked in a strong colour.
+    const int chosen = progress().FourRowOptionB.whole();
+    for (int i = 0; i < 3; ++i) {
+        Control &lev = ctl("fourlev", i);
+        const bool on = chosen == i + 1;
+        lev.backColor = on ? rgb(255, 190, 60) : rgb(255, 245, 215);
     }
 }
 

@@ -9,8 +9,14 @@ class PairMenu : public TopicMenu
 public:
     explicit PairMenu(App &app);
 
+    void onOpened() override;
+    void onClick(const std::string &name, int index) override;
+
 protected:
     void exitMenu() override;
+
+private:
+    void showChosenLevel();
 };
 
 } // namespace nb
