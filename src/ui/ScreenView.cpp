@@ -28,11 +28,13 @@ template<class T> bool changed(T &last, const T &now)
     return true;
 }
 
-// Labels, pictures, shapes and lines lie under the controls a pupil types into or presses.
+// Labels, pictures, shapes, lines and drawn canvases lie under the controls a pupil types into or
+// presses, stacked among themselves in the order the screen made them: a picture made after a
+// canvas moves over its drawing.
 bool isGraphical(ControlKind k)
 {
     return k == ControlKind::Label || k == ControlKind::Image || k == ControlKind::Shape ||
-           k == ControlKind::Line;
+           k == ControlKind::Line || k == ControlKind::Canvas;
 }
 
 Qt::Alignment alignmentOf(Align a)
