@@ -30,6 +30,9 @@ constexpr Cell kCells[] = {
 };
 constexpr int kSumTop = 2050;
 constexpr int kSumHeight = 1500;
+// Labels show their text near the top while a box centres it: lowering the labels lines the
+// numbers up with the answer.
+constexpr int kLabelDrop = 280;
 
 void bigFont(Control &c, double points)
 {
@@ -64,7 +67,8 @@ DrillFrame::DrillFrame(App &app, Look look)
                                                                         : "=";
         Control &c = cell.name == look_.answerBox
                          ? textBox(cell.name, "Answer", cell.left, kSumTop, cell.width, kSumHeight)
-                         : label(cell.name, caption, cell.left, kSumTop, cell.width, kSumHeight);
+                         : label(cell.name, caption, cell.left, kSumTop + kLabelDrop, cell.width,
+                                 kSumHeight - kLabelDrop);
         bigFont(c, 40);
         c.foreColor = kInk;
     }

@@ -46,7 +46,7 @@ MakeQuestion drawMakeQuestion(bool drawnTotal, bool subtract, bool negatives, bo
 }
 
 MakeDrill::MakeDrill(App &app, std::string menu, std::uint32_t theme, Rules rules)
-    : DrillFrame(app, {rules.subtract ? "-" : "+", "text3", std::move(menu), theme})
+    : DrillFrame(app, {rules.subtract ? "\u2212" : "+", "text3", std::move(menu), theme})
     , rules_(rules)
 {}
 

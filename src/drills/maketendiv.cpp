@@ -1,27 +1,15 @@
 #include "drills/maketendiv.h"
 
-#include "drills/BestTimeCheck.h"
-
 namespace nb {
 
 MakeTenDiv::MakeTenDiv(App &app)
-    : DrillFrame(app, {"\u00f7", "text3", "divmenu", rgb(235, 220, 255)})
+    : MissingFactorDrill(app, "divmenu", rgb(235, 220, 255),
+                         // The facts of Division 1: quotients 1 to 10, divisors 2 to 10.
+                         {true,
+                          {1, 10},
+                          {2, 10},
+                          &PupilProgress::DivNegatives,
+                          {&PupilProgress::MakeTenDivBest, &PupilProgress::MakeTenDivBest2}})
 {}
-
-void MakeTenDiv::showQuestion(Draws &draws)
-{
-    const FactorPair f =
-        drawFactors(draws, kQuotient, kDivisor, flagBit(progress().DivNegatives) == 1);
-    hidden_ = f.second;
-    show("text1", f.first * f.second);
-    show("Text5", f.first);
-}
-
-Value *MakeTenDiv::bestSlot()
-{
-    static constexpr BestSlot kSlots[] = {&PupilProgress::MakeTenDivBest,
-                                          &PupilProgress::MakeTenDivBest2};
-    return slotIn(kSlots, flagBit(progress().DivNegatives));
-}
 
 } // namespace nb

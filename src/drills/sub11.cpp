@@ -134,7 +134,7 @@ const QuestionType kLevel4[] = {
 const QuestionLevels kSubtractionLevels = {kLevel1, kLevel2, kLevel3, kLevel4};
 
 Sub11::Sub11(App &app)
-    : SumDrill(app, {"-", "Text5", "submenu", rgb(220, 255, 215)},
+    : SumDrill(app, {"\u2212", "Text5", "submenu", rgb(220, 255, 215)},
                {kSubtractionLevels,
                 -1,
                 &PupilProgress::SubLevel,
