@@ -8,6 +8,7 @@
 //                                 once (OK, No, empty text) and written to standard error
 #include "core/App.h"
 #include "shell/AllScreens.h"
+#include "shell/Leaving.h"
 #include "ui/Look.h"
 #include "ui/MainWindow.h"
 #include "ui/QtPlatform.h"
@@ -29,6 +30,8 @@ int main(int argc, char *argv[])
     nb::App app(platform, registry);
     nb::ui::MainWindow window(app);
     platform.setWindow(&window);
+    // Closing the window with a pupil active offers to save, as EXIT on the main menu does.
+    window.setCloseRequest([&app] { nb::leaveProgram(app); });
     QObject::connect(&window, &nb::ui::MainWindow::finished, &qapp, &QApplication::quit,
                      Qt::QueuedConnection);
 

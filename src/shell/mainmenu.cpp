@@ -3,6 +3,7 @@
 #include "core/App.h"
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
+#include "shell/Leaving.h"
 
 namespace nb {
 
@@ -116,20 +117,7 @@ void MainMenu::newPupil()
 
 void MainMenu::exitProgram()
 {
-    if (!progress().Unsaved.equalsNumber(1)) {
-        app().endProgram();
-        return;
-    }
-    progress().MessageText = Value::text("Do you want to save?");
-    const int reply = platform().askYesNo("Do you want to save?");
-    progress().MessageReply = Value::int16(std::int16_t(reply));
-    if (reply != kYes) {
-        app().endProgram();
-        return;
-    }
-    // Saving ends the program; until the save screen exists, Yes ends it too.
-    if (!app().show("Filesave") && !app().ended() && !app().registry().has("Filesave"))
-        app().endProgram();
+    leaveProgram(app());
 }
 
 } // namespace nb

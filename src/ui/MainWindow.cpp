@@ -127,7 +127,17 @@ ScreenView *MainWindow::frontView() const
 
 void MainWindow::closeEvent(QCloseEvent *e)
 {
-    // Closing the window ends the program, as EXIT without a pupil does: nothing is saved.
+    // Closing the window is a request to leave: the program may first offer to save (and stay
+    // open for the save screen). Without a handler, or once ended, the window simply closes.
+    Screen *front = app_.ended() ? nullptr : app_.front();
+    if (front && closeRequest_) {
+        app_.run(*front, [this] { closeRequest_(); });
+        if (!app_.ended()) {
+            syncAll(true);
+            e->ignore();
+            return;
+        }
+    }
     if (!app_.ended())
         app_.endProgram();
     e->accept();

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -37,6 +39,10 @@ public:
     // Called by the views after each event they passed to the App.
     void afterEvent(bool forceFocus) { syncAll(forceFocus); }
 
+    // What closing the window asks the program to do (for example, offer to save first); the
+    // window stays open unless the program has ended afterwards.
+    void setCloseRequest(std::function<void()> request) { closeRequest_ = std::move(request); }
+
     // Screen timers stand still while a message box is open (calls nest).
     void pauseTimers();
     void resumeTimers();
@@ -56,6 +62,7 @@ private:
     void showFront();
 
     App &app_;
+    std::function<void()> closeRequest_;
     QStackedLayout *stack_;
     std::vector<std::pair<const Screen *, ScreenView *>> views_;
     int pauseDepth_ = 0;

@@ -52,13 +52,17 @@ Qt::Alignment alignmentOf(Align a)
 
 void setColors(QWidget &w, QPalette::ColorRole backRole, QPalette::ColorRole textRole,
                std::uint32_t back, std::uint32_t fore, const QColor &defaultBack,
-               const QColor &defaultFore)
+               const QColor &defaultFore, bool readableWhenDisabled = false)
 {
     QPalette pal = w.palette();
     pal.setColor(backRole, colorOr(back, defaultBack));
-    // Disabled text keeps the style's greyed look.
-    for (QPalette::ColorGroup g : {QPalette::Active, QPalette::Inactive})
-        pal.setColor(g, textRole, colorOr(fore, defaultFore));
+    // Disabled text keeps the style's greyed look, except where the text is an answer the pupil
+    // must still read (a box that is finished with shows its digits in full colour).
+    for (QPalette::ColorGroup g : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        if (g != QPalette::Disabled || readableWhenDisabled)
+            pal.setColor(g, textRole, colorOr(fore, defaultFore));
+    if (readableWhenDisabled)
+        pal.setColor(QPalette::Disabled, backRole, colorOr(back, defaultBack));
     w.setPalette(pal);
 }
 
@@ -364,7 +368,7 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
             box->setAccessibleName(qs(c.spokenName.empty() ? c.name : c.spokenName));
         if (colors)
             setColors(*box, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
-                      Qt::black);
+                      Qt::black, true);
         if (look)
             box->setAlignment(alignmentOf(c.align) | Qt::AlignVCenter);
         if (changed(l.maxLength, c.maxLength) || fresh)

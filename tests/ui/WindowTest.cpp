@@ -421,3 +421,32 @@ TEST_F(WindowTest, EndingTheProgramClosesTheWindow)
 
 } // namespace
 } // namespace nb::ui
+
+namespace nb::ui {
+namespace {
+
+TEST_F(WindowTest, ClosingTheWindowAsksTheProgramFirst)
+{
+    open();
+    int asked = 0;
+    // The program declines to end (as when it offers to save and shows the save screen).
+    window.setCloseRequest([&] {
+        ++asked;
+        app.show("other");
+    });
+    window.close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(asked, 1);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(app.ended());
+    EXPECT_EQ(window.windowTitle(), "Other screen");
+    // Now it agrees: the window closes and the program has ended.
+    window.setCloseRequest([&] { app.endProgram(); });
+    window.close();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(app.ended());
+    EXPECT_FALSE(window.isVisible());
+}
+
+} // namespace
+} // namespace nb::ui
