@@ -64,11 +64,13 @@ void Factor::buildControls()
 
     Control &heading = label("Label2", "Find the factors of", 7450, 450, 4300, 600);
     styled(heading, 20, true, Align::Center).foreColor = rgb(30, 60, 140);
-    Control &question = label("Questionno", "", 8800, 1100, 1600, 1150);
-    styled(question, 40, true, Align::Center);
-    question.border = true;
-    question.backColor = colors::white;
-    question.foreColor = rgb(30, 60, 140);
+    // The number and the level stand out in white framed boxes.
+    const auto framed = [](Control &c, double points, std::uint32_t ink) {
+        styled(c, points, true, Align::Center).border = true;
+        c.backColor = colors::white;
+        c.foreColor = ink;
+    };
+    framed(label("Questionno", "", 8800, 1100, 1600, 1150), 40, rgb(30, 60, 140));
 
     for (int k = 1; k <= kBoxes; ++k) {
         Control &box = textBox("factorbox", "factor " + std::to_string(k),
@@ -85,11 +87,7 @@ void Factor::buildControls()
 
     Control &levelCaption = label("Label1", "Level", 7700, 5200, 1700, 700);
     styled(levelCaption, 22, true, Align::Right).foreColor = rgb(30, 60, 140);
-    Control &level = label("level", "", 9550, 5050, 1400, 900);
-    styled(level, 30, true, Align::Center);
-    level.border = true;
-    level.backColor = colors::white;
-    level.foreColor = rgb(200, 40, 40);
+    framed(label("level", "", 9550, 5050, 1400, 900), 30, rgb(200, 40, 40));
 
     // Which car is which.
     image("youkey", "car_pupil.svg", 7750, 6150, 700, 700);
