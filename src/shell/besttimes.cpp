@@ -3,6 +3,7 @@
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
 #include "shell/record/RecordFile.h"
+#include "shell/record/Style.h"
 
 #include <array>
 
@@ -166,14 +167,8 @@ BestTimes::BestTimes(App &app)
         ++row;
     }
 
-    Control &print = button("Command2", "PRINT", 6100, 8150, 2600, 650);
-    print.font.points = 16;
-    print.font.bold = true;
-    print.backColor = rgb(140, 200, 255);
-    Control &exit = button("Command1", "EXIT", 9000, 8150, 2600, 650);
-    exit.font.points = 16;
-    exit.font.bold = true;
-    exit.backColor = rgb(255, 160, 160);
+    bigButton(button("Command2", "PRINT", 6100, 8150, 2600, 650), rgb(140, 200, 255));
+    bigButton(button("Command1", "EXIT", 9000, 8150, 2600, 650), rgb(255, 160, 160));
     setFocus("Command1");
 }
 

@@ -256,7 +256,8 @@ TEST_F(RecordScreens, ALoadThatFailsChangesNothingAndSaysWhy)
     std::string badTag = record;
     badTag[std::size_t(record.size() - 4)] = 7; // the last value's tag
     spit(records() / "tags.DAT", badTag);
-    spit(records() / "runs.DAT", std::string("\x08\x00\xFF\x00ab", 6));
+    spit(records() / "runs.DAT",
+         std::string("\x08\x00\xFF\x00", 4) + "ab"); // 255 bytes said, 2 there
     spit(records() / "empty.DAT", "");
     spit(records() / "huge.DAT", "");
     fs::resize_file(records() / "huge.DAT", record::kMaxRecordBytes + 1);

@@ -4,6 +4,7 @@
 #include "core/PupilProgress.h"
 #include "shell/record/FileName.h"
 #include "shell/record/RecordFile.h"
+#include "shell/record/Style.h"
 
 #include <algorithm>
 #include <cctype>
@@ -87,37 +88,22 @@ RecordFileScreen::RecordFileScreen(App &app)
         c.foreColor = rgb(40, 40, 120);
     };
     heading("lblfilename", "File Name:", 600, 400);
-    Control &box = textBox("txtfilename", "File name", 600, 900, 5000, 550);
-    box.font.points = 16;
-    Control &files = list("filfiles", 600, 1600, 5000, 4900);
-    files.font.points = 14;
-    files.spokenName = "Files";
+    textBox("txtfilename", "File name", 600, 900, 5000, 550).font.points = 16;
+    spoken(list("filfiles", 600, 1600, 5000, 4900), "Files");
     heading("lblfiletype", "File Type:", 600, 6700);
-    Control &type = comboBox("cbofiletype", 600, 7200, 5000, 500);
-    type.font.points = 14;
-    type.spokenName = "File type";
+    spoken(comboBox("cbofiletype", 600, 7200, 5000, 500), "File type");
 
     heading("lbldirectories", "Directories", 6400, 400);
     Control &path = label("lbldirname", "", 6400, 900, 5000, 550);
     path.font.points = 11;
     path.border = true;
     path.backColor = colors::white;
-    Control &dirs = list("dirdirectory", 6400, 1600, 5000, 4900);
-    dirs.font.points = 14;
-    dirs.spokenName = "Folders";
+    spoken(list("dirdirectory", 6400, 1600, 5000, 4900), "Folders");
     heading("lbldrive", "Drive :", 6400, 6700);
-    Control &drive = comboBox("drvdrive", 6400, 7200, 5000, 500);
-    drive.font.points = 14;
-    drive.spokenName = "Drive";
+    spoken(comboBox("drvdrive", 6400, 7200, 5000, 500), "Drive");
 
-    Control &ok = button("cmdOK", "OK", 6400, 8000, 2300, 700);
-    ok.font.points = 16;
-    ok.font.bold = true;
-    ok.backColor = rgb(150, 230, 150);
-    Control &cancel = button("cmdcancel", "Cancel", 9100, 8000, 2300, 700);
-    cancel.font.points = 16;
-    cancel.font.bold = true;
-    cancel.backColor = rgb(255, 190, 190);
+    bigButton(button("cmdOK", "OK", 6400, 8000, 2300, 700), rgb(150, 230, 150));
+    bigButton(button("cmdcancel", "Cancel", 9100, 8000, 2300, 700), rgb(255, 190, 190));
     setFocus("txtfilename");
 }
 
