@@ -6,6 +6,8 @@
 //   NUMBROOK_SNAPSHOT=<file.png>  save the window as a picture after NUMBROOK_SNAPSHOT_MS
 //                                 milliseconds (default 800), then quit; boxes are answered at
 //                                 once (OK, No, empty text) and written to standard error
+//   NUMBROOK_FIRST_PAINT_EXIT=1   print "painted <resident KiB>" once the window has painted,
+//                                 then quit (for the start-up benchmark)
 #include "core/App.h"
 #include "shell/AllScreens.h"
 #include "shell/Leaving.h"
@@ -14,10 +16,47 @@
 #include "ui/QtPlatform.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QRegularExpression>
 #include <QTimer>
 
 #include <cstdio>
+
+namespace {
+
+long residentKib()
+{
+    QFile f("/proc/self/status");
+    if (!f.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray &line : f.readAll().split('\n'))
+        if (line.startsWith("VmRSS:"))
+            return line.mid(6).trimmed().split(' ').value(0).toLong();
+    return -1;
+}
+
+// Reports the first paint of the window and quits.
+class FirstPaintReporter : public QObject
+{
+public:
+    bool eventFilter(QObject *o, QEvent *e) override
+    {
+        if (e->type() == QEvent::Paint && !done_) {
+            done_ = true;
+            QTimer::singleShot(0, [] {
+                std::printf("painted %ld\n", residentKib());
+                std::fflush(stdout);
+                QApplication::quit();
+            });
+        }
+        return QObject::eventFilter(o, e);
+    }
+
+private:
+    bool done_ = false;
+};
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -56,6 +95,10 @@ int main(int argc, char *argv[])
             QApplication::quit();
         });
     }
+
+    FirstPaintReporter reporter;
+    if (qEnvironmentVariableIntValue("NUMBROOK_FIRST_PAINT_EXIT") == 1)
+        window.installEventFilter(&reporter);
 
     window.show();
     const QString first = qEnvironmentVariable("NUMBROOK_START", "cover");

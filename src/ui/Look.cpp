@@ -1,6 +1,7 @@
 #include "ui/Look.h"
 
 #include <QApplication>
+#include <QPixmapCache>
 #include <QStyleFactory>
 
 #include <cmath>
@@ -20,6 +21,8 @@ void setUpApplication(QApplication &app)
 {
     app.setApplicationName("NUMBROOK");
     app.setApplicationDisplayName("NUMBROOK");
+    // Rendered pictures are kept between screens; a full-window cover at 4K is about 33 MB.
+    QPixmapCache::setCacheLimit(64 * 1024);
     if (QStyle *fusion = QStyleFactory::create("Fusion"))
         QApplication::setStyle(fusion);
     // The layouts are designed for a rounded, child-friendly face. Missing families in the list

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QPointer>
 #include <QSvgRenderer>
 
@@ -69,23 +70,41 @@ bool CachedPicture::paint(QPainter &p, const std::string &name, const QRectF &bo
         name_ = name;
         size_ = size;
         ratio_ = ratio;
-        pixmap_ = QPixmap();
-        QSvgRenderer *svg = pictureRenderer(name);
-        missing_ = svg == nullptr;
-        if (svg && !size.isEmpty()) {
-            pixmap_ = QPixmap(size * ratio);
-            pixmap_.setDevicePixelRatio(ratio);
-            pixmap_.fill(Qt::transparent);
-            QPainter pp(&pixmap_);
-            pp.setRenderHint(QPainter::Antialiasing);
-            svg->render(&pp, fitPicture(*svg, QRectF(QPointF(), QSizeF(size))));
-        }
+        pixmap_ = renderedPicture(name, size, ratio, missing_);
     }
     if (missing_)
         return false;
     if (!pixmap_.isNull())
         p.drawPixmap(box.topLeft(), pixmap_);
     return true;
+}
+
+QPixmap renderedPicture(const std::string &name, QSize size, qreal ratio, bool &missing)
+{
+    // Rendered pictures are shared by every screen: opening a screen again, or another screen
+    // with the same picture at the same size, costs a lookup instead of a new rendering.
+    QSvgRenderer *svg = pictureRenderer(name);
+    missing = svg == nullptr;
+    if (!svg || size.isEmpty())
+        return {};
+    const QString key = QStringLiteral("nb-picture:%1:%2x%3@%4")
+                            .arg(QString::fromStdString(name))
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(ratio);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+    pixmap = QPixmap(size * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    {
+        QPainter pp(&pixmap);
+        pp.setRenderHint(QPainter::Antialiasing);
+        svg->render(&pp, fitPicture(*svg, QRectF(QPointF(), QSizeF(size))));
+    }
+    QPixmapCache::insert(key, pixmap);
+    return pixmap;
 }
 
 } // namespace nb::ui

@@ -21,6 +21,9 @@ QRectF fitPicture(QSvgRenderer &svg, const QRectF &box);
 // Paints a picture straight onto a painter (used inside cached drawings). False when missing.
 bool paintPicture(QPainter &p, const std::string &name, const QRectF &box);
 
+// A picture rendered at a size, from a cache shared by every widget (empty when missing).
+QPixmap renderedPicture(const std::string &name, QSize size, qreal ratio, bool &missing);
+
 // One widget's rendered copy of its picture, redrawn only when the name or size changes.
 class CachedPicture
 {
