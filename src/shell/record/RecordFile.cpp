@@ -124,6 +124,8 @@ bool copyTail(int in, int out, off_t from, off_t to)
 fs::path recordsFolder(Platform &platform)
 {
     const fs::path documents = platform.documentsFolder();
+    if (documents.empty())
+        return documents; // never a folder relative to wherever the program was started
     const fs::path folder = documents / "NUMBROOK records";
     std::error_code ec;
     fs::create_directories(folder, ec);

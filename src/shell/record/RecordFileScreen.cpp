@@ -53,7 +53,7 @@ struct Listing
 std::optional<Listing> listFolder(const fs::path &folder)
 {
     std::error_code ec;
-    fs::directory_iterator it(folder, fs::directory_options::skip_permission_denied, ec);
+    fs::directory_iterator it(folder, ec); // an unreadable folder is an error, not an empty one
     if (ec)
         return std::nullopt;
     Listing out;
@@ -119,13 +119,13 @@ void RecordFileScreen::onOpened()
 
     // The folder of the record loaded in this run, else the records folder, else anywhere usable.
     if (const Value &last = progress().RecordFolder;
-        last.isText() && !last.asText().empty() && openFolder(last.asText()))
+        last.isText() && !last.asText().empty() && showFolder(last.asText(), true))
         return;
     std::vector<fs::path> starts{record::recordsFolder(platform()), platform().documentsFolder()};
     starts.insert(starts.end(), drives_.begin(), drives_.end());
     starts.push_back("/");
     for (const fs::path &start : starts)
-        if (!start.empty() && openFolder(start))
+        if (!start.empty() && showFolder(start, true))
             return;
 }
 
@@ -154,44 +154,32 @@ void RecordFileScreen::onChange(const std::string &name, int)
     else if (name == "filfiles")
         filePicked(false);
     else if (name == "cbofiletype" && ctl("cbofiletype").listIndex == 0)
-        listFiles(folder_); // the one file type there is: record files
+        showFolder(folder_, false); // the one file type there is: record files
 }
 
-bool RecordFileScreen::openFolder(const fs::path &folder)
+bool RecordFileScreen::showFolder(const fs::path &folder, bool open)
 {
     const fs::path target = normal(folder);
     const std::optional<Listing> listing = listFolder(target);
     if (!listing)
         return false;
-    Control &dirs = ctl("dirdirectory");
-    dirs.items.clear();
-    dirs.listIndex = -1;
-    folderItems_.clear();
-    const bool driveTop = std::find(drives_.begin(), drives_.end(), target) != drives_.end();
-    if (!driveTop && target.has_relative_path()) {
-        dirs.items.push_back("..");
-        folderItems_.push_back(target.parent_path());
+    if (open) {
+        Control &dirs = ctl("dirdirectory");
+        dirs.items.clear();
+        dirs.listIndex = -1;
+        folderItems_.clear();
+        const bool driveTop = std::find(drives_.begin(), drives_.end(), target) != drives_.end();
+        if (!driveTop && target.has_relative_path()) {
+            dirs.items.push_back("..");
+            folderItems_.push_back(target.parent_path());
+        }
+        for (const std::string &sub : listing->folders) {
+            dirs.items.push_back(sub);
+            folderItems_.push_back(target / sub);
+        }
+        open_ = target;
+        selectDriveOfFolder();
     }
-    for (const std::string &sub : listing->folders) {
-        dirs.items.push_back(sub);
-        folderItems_.push_back(target / sub);
-    }
-    open_ = target;
-    Control &files = ctl("filfiles");
-    files.items = listing->files;
-    files.listIndex = -1;
-    folder_ = target;
-    caption("lbldirname") = target.string();
-    selectDriveOfFolder();
-    return true;
-}
-
-bool RecordFileScreen::listFiles(const fs::path &folder)
-{
-    const fs::path target = normal(folder);
-    const std::optional<Listing> listing = listFolder(target);
-    if (!listing)
-        return false;
     Control &files = ctl("filfiles");
     files.items = listing->files;
     files.listIndex = -1;
@@ -217,7 +205,7 @@ void RecordFileScreen::driveChosen()
     const int i = ctl("drvdrive").listIndex;
     if (i < 0 || std::size_t(i) >= drives_.size())
         return;
-    if (!openFolder(drives_[std::size_t(i)])) {
+    if (!showFolder(drives_[std::size_t(i)], true)) {
         platform().message("Drive error!", "Error", MsgIcon::Exclamation);
         selectDriveOfFolder(); // back to the drive of the folder still shown
     }
@@ -230,7 +218,7 @@ void RecordFileScreen::folderPicked(bool open)
     if (i < 0 || std::size_t(i) >= folderItems_.size())
         return;
     const fs::path target = folderItems_[std::size_t(i)];
-    if (!(open ? openFolder(target) : listFiles(target))) {
+    if (!showFolder(target, open)) {
         platform().message("The folder " + dirs.items[std::size_t(i)] + " cannot be opened.");
         dirs.listIndex = -1;
     }

@@ -32,8 +32,9 @@ protected:
     std::string &nameBox() { return caption("txtfilename"); }
 
 private:
-    bool openFolder(const std::filesystem::path &folder);
-    bool listFiles(const std::filesystem::path &folder);
+    // Lists the folder's record files and shows its path; with open, lists its subfolders too.
+    // False, with nothing changed, when the folder cannot be read.
+    bool showFolder(const std::filesystem::path &folder, bool open);
     void selectDriveOfFolder();
     void driveChosen();
     void folderPicked(bool open);
