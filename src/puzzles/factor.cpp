@@ -58,7 +58,8 @@ void Factor::buildControls()
 {
     // The road and its scenery fill the left of the screen; the controls stand on plain
     // colour to the right of it. The canvas comes first so the cars lie on top of it.
-    canvas("road", 0, 0, kPanelLeft, kHeight);
+    // Its sky colour makes it opaque, so the window copies it without blending on every move.
+    canvas("road", 0, 0, kPanelLeft, kHeight).backColor = rgb(150, 205, 250);
     shape("rim", ShapeKind::Rectangle, rgb(43, 90, 168), rgb(43, 90, 168), kPanelLeft, 0, 60,
           kHeight);
 

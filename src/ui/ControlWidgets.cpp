@@ -344,24 +344,27 @@ void CanvasView::setLook(std::uint32_t back, bool border, double pixelsPerTwip)
 {
     if (back == back_ && border == border_ && pixelsPerTwip == pixelsPerTwip_)
         return;
+    // A canvas with a back colour covers its area completely: its cached picture is opaque (a
+    // plain copy, no blending) and nothing beneath it needs painting.
+    if (hasColor(back) != hasColor(back_) || back != back_)
+        cachedRevision_ = ~std::uint64_t(0);
     back_ = back;
     border_ = border;
     pixelsPerTwip_ = pixelsPerTwip;
+    setAttribute(Qt::WA_OpaquePaintEvent, hasColor(back_));
     update();
 }
 
 void CanvasView::paintEvent(QPaintEvent *)
 {
     QPainter p(this);
-    if (hasColor(back_))
-        p.fillRect(rect(), toQColor(back_));
     const qreal ratio = devicePixelRatioF();
     const QSize pixels = size() * ratio;
     if (cache_.size() != pixels || cachedRevision_ != drawing_.revision ||
         cachedScale_ != pixelsPerTwip_) {
         cache_ = QPixmap(pixels);
         cache_.setDevicePixelRatio(ratio);
-        cache_.fill(Qt::transparent);
+        cache_.fill(hasColor(back_) ? toQColor(back_) : QColor(Qt::transparent));
         QPainter pp(&cache_);
         paintDrawing(pp, drawing_, pixelsPerTwip_);
         cachedRevision_ = drawing_.revision;
