@@ -26,10 +26,13 @@ Screen *App::show(std::string_view name)
     if (Screen *s = find(name)) {
         auto it =
             std::find_if(open_.begin(), open_.end(), [s](const auto &p) { return p.get() == s; });
+        const bool wasFront = s == front();
         std::rotate(it, it + 1, open_.end());
         if (listener_)
             listener_->screenShown(*s);
-        return s;
+        if (!wasFront)
+            run(*s, [s] { s->onActivated(); });
+        return isLive(*s) ? s : nullptr;
     }
     const ScreenRegistry::Entry *entry = registry_.find(name);
     if (!entry)
@@ -59,14 +62,19 @@ void App::close(Screen &screen)
         std::find_if(open_.begin(), open_.end(), [&](const auto &p) { return p.get() == &screen; });
     if (it == open_.end())
         return;
+    const bool wasFront = std::next(it) == open_.end();
     std::unique_ptr<Screen> owned = std::move(*it);
     open_.erase(it);
     owned->onClosing();
     if (listener_)
         listener_->screenClosed(*owned);
     closed_.push_back(std::move(owned));
-    if (depth_ == 0)
-        destroyClosed();
+    ++depth_;
+    if (wasFront && !ended_) {
+        if (Screen *revealed = front())
+            revealed->onActivated();
+    }
+    leave();
 }
 
 void App::endProgram()

@@ -47,6 +47,8 @@ public:
 
     // Events. The App calls these one at a time; see App for the entry points.
     virtual void onOpened() {}
+    // The screen came to the front again: a screen over it closed, or it was shown once more.
+    virtual void onActivated() {}
     virtual void onClick(const std::string &name, int index) { (void)name, (void)index; }
     virtual void onDoubleClick(const std::string &name, int index) { onClick(name, index); }
     // A key typed into a box, seen before it is applied: the box's text is as it stands before

@@ -61,6 +61,12 @@ MainMenu::MainMenu(App &app)
     setFocus("Command2");
 }
 
+void MainMenu::onActivated()
+{
+    // Back in front (after a record was loaded, say): the pupil may have changed.
+    onOpened();
+}
+
 void MainMenu::onOpened()
 {
     if (progress().Unsaved.equalsNumber(1)) {

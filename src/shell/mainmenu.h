@@ -10,6 +10,7 @@ class MainMenu : public Screen
 public:
     explicit MainMenu(App &app);
     void onOpened() override;
+    void onActivated() override;
     void onClick(const std::string &name, int index) override;
 
 private:

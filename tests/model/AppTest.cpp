@@ -11,6 +11,7 @@ namespace {
 
 int openings = 0;
 int destroyed = 0;
+int activations = 0;
 
 class Probe : public Screen
 {
@@ -22,6 +23,7 @@ public:
     }
     ~Probe() override { ++destroyed; }
     void onOpened() override { ++openings; }
+    void onActivated() override { ++activations; }
     void onClick(const std::string &, int) override
     {
         // Close itself, then keep using its own state: must still be alive until the event ends.
@@ -38,7 +40,7 @@ class NavigationTest : public ::testing::Test
 protected:
     void SetUp() override
     {
-        openings = destroyed = 0;
+        openings = destroyed = activations = 0;
         registry.add<Probe>("probe", "Probe");
         registry.add<Probe>("other", "Other");
     }
@@ -56,6 +58,13 @@ TEST_F(NavigationTest, ShowingAnOpenScreenBringsItForwardWithoutReopening)
     EXPECT_EQ(app.front(), a);
     EXPECT_EQ(openings, 2);
     EXPECT_EQ(a->title(), "Probe");
+    EXPECT_EQ(activations, 1) << "brought forward again";
+    app.show("probe"); // already in front: nothing happens
+    EXPECT_EQ(activations, 1);
+    app.close("probe"); // the one below comes back to the front
+    EXPECT_EQ(activations, 2);
+    app.close("probe");
+    EXPECT_EQ(activations, 2);
 }
 
 TEST_F(NavigationTest, AScreenClosedInItsOwnHandlerIsDestroyedAfterwards)

@@ -150,6 +150,17 @@ TEST_F(Shell, GroupButtonsSetTheLevelFromTheirPlace)
     }
 }
 
+TEST_F(Shell, TheMenuRevealedAfterALoadNoLongerOffersNewOrLoad)
+{
+    d.click("Command3");
+    ASSERT_EQ(d.frontName(), "Filesystem");
+    d.progress().Unsaved = Value::int16(1); // what a successful load leaves
+    d.app.close("Filesystem");
+    EXPECT_EQ(d.frontName(), "mainmenu");
+    EXPECT_FALSE(d.enabled("Command2"));
+    EXPECT_FALSE(d.enabled("Command3"));
+}
+
 TEST_F(Shell, UnbuiltActivitiesAreDisabled)
 {
     newPupil();
