@@ -11,52 +11,16 @@
 #include "core/App.h"
 #include "shell/AllScreens.h"
 #include "shell/Leaving.h"
+#include "ui/FirstPaint.h"
 #include "ui/Look.h"
 #include "ui/MainWindow.h"
 #include "ui/QtPlatform.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTimer>
 
 #include <cstdio>
-
-namespace {
-
-long residentKib()
-{
-    QFile f("/proc/self/status");
-    if (!f.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : f.readAll().split('\n'))
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).trimmed().split(' ').value(0).toLong();
-    return -1;
-}
-
-// Reports the first paint of the window and quits.
-class FirstPaintReporter : public QObject
-{
-public:
-    bool eventFilter(QObject *o, QEvent *e) override
-    {
-        if (e->type() == QEvent::Paint && !done_) {
-            done_ = true;
-            QTimer::singleShot(0, [] {
-                std::printf("painted %ld\n", residentKib());
-                std::fflush(stdout);
-                QApplication::quit();
-            });
-        }
-        return QObject::eventFilter(o, e);
-    }
-
-private:
-    bool done_ = false;
-};
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
@@ -96,7 +60,7 @@ int main(int argc, char *argv[])
         });
     }
 
-    FirstPaintReporter reporter;
+    nb::ui::FirstPaintReporter reporter;
     if (qEnvironmentVariableIntValue("NUMBROOK_FIRST_PAINT_EXIT") == 1)
         window.installEventFilter(&reporter);
 

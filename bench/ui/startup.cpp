@@ -3,16 +3,16 @@
 // measured in the same run, alternating, each a fresh process.
 // Usage: bench_ui_startup <path to numbrook> [runs]
 //        bench_ui_startup --bare   (the baseline window; used by the runner itself)
+#include "ui/FirstPaint.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QElapsedTimer>
-#include <QFile>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
-#include <QTimer>
 
 #include <algorithm>
 #include <cstdio>
@@ -20,38 +20,6 @@
 #include <vector>
 
 namespace {
-
-long rssKib()
-{
-    QFile f("/proc/self/status");
-    if (!f.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : f.readAll().split('\n'))
-        if (line.startsWith("VmRSS:"))
-            return line.mid(6).trimmed().split(' ').value(0).toLong();
-    return -1;
-}
-
-// Prints "painted <rss KiB>" once the widget has painted, then quits.
-class FirstPaint : public QObject
-{
-public:
-    bool eventFilter(QObject *o, QEvent *e) override
-    {
-        if (e->type() == QEvent::Paint && !done_) {
-            done_ = true;
-            QTimer::singleShot(0, [] {
-                std::printf("painted %ld\n", rssKib());
-                std::fflush(stdout);
-                QApplication::quit();
-            });
-        }
-        return QObject::eventFilter(o, e);
-    }
-
-private:
-    bool done_ = false;
-};
 
 int bareWindow(int argc, char *argv[])
 {
@@ -77,7 +45,7 @@ int bareWindow(int argc, char *argv[])
         grid->addWidget(c, i / 10, i % 10);
     }
     w.resize(1024, 768);
-    FirstPaint watcher;
+    nb::ui::FirstPaintReporter watcher;
     w.installEventFilter(&watcher);
     w.show();
     return app.exec();
