@@ -20,7 +20,8 @@ QFont makeFont(const std::string &family, double points, bool bold, double scale
 void setUpApplication(QApplication &app)
 {
     app.setApplicationName("NUMBROOK");
-    app.setApplicationDisplayName("NUMBROOK");
+    // No display name: Qt would append it to every window title, and each screen's title must
+    // stand alone ("MENU", not "MENU — NUMBROOK").
     // Rendered pictures are kept between screens; a full-window cover at 4K is about 33 MB.
     QPixmapCache::setCacheLimit(64 * 1024);
     if (QStyle *fusion = QStyleFactory::create("Fusion"))
