@@ -18,23 +18,14 @@ ScreenRegistry &filled(ScreenRegistry &r)
 
 std::string utf8(int code)
 {
-    std::string s;
     const auto c = static_cast<unsigned>(code);
-    if (c < 0x80) {
-        s += char(c);
-    } else if (c < 0x800) {
-        s += char(0xC0 | (c >> 6));
-        s += char(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        s += char(0xE0 | (c >> 12));
-        s += char(0x80 | ((c >> 6) & 0x3F));
-        s += char(0x80 | (c & 0x3F));
-    } else {
-        s += char(0xF0 | (c >> 18));
-        s += char(0x80 | ((c >> 12) & 0x3F));
-        s += char(0x80 | ((c >> 6) & 0x3F));
-        s += char(0x80 | (c & 0x3F));
-    }
+    if (c < 0x80)
+        return std::string(1, char(c));
+    // A lead byte with one high bit per byte of the sequence, then six bits per byte.
+    const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+    std::string s(1, char((0xFF << (7 - more)) | (c >> (6 * more))));
+    for (int k = more - 1; k >= 0; --k)
+        s += char(0x80 | ((c >> (6 * k)) & 0x3F));
     return s;
 }
 
@@ -132,20 +123,11 @@ void Driver::key(const std::string &name, int code, int index)
 
 void Driver::type(const std::string &name, const std::string &text, int index)
 {
+    // One key per UTF-8 character.
     for (std::size_t i = 0; i < text.size();) {
         const auto b = static_cast<unsigned char>(text[i]);
-        int code = b;
-        std::size_t len = 1;
-        if (b >= 0xF0) {
-            code = b & 0x07;
-            len = 4;
-        } else if (b >= 0xE0) {
-            code = b & 0x0F;
-            len = 3;
-        } else if (b >= 0xC0) {
-            code = b & 0x1F;
-            len = 2;
-        }
+        const std::size_t len = b < 0xC0 ? 1 : b < 0xE0 ? 2 : b < 0xF0 ? 3 : 4;
+        int code = len == 1 ? b : b & (0x7F >> len);
         for (std::size_t j = 1; j < len && i + j < text.size(); ++j)
             code = (code << 6) | (static_cast<unsigned char>(text[i + j]) & 0x3F);
         key(name, code, index);
@@ -157,12 +139,6 @@ void Driver::tick(const std::string &timerName, int times)
 {
     for (int i = 0; i < times; ++i)
         app.timerTick(front(), timerName);
-}
-
-void Driver::mouseDown(const std::string &name, double x, double y, int index)
-{
-    usable(name, index);
-    app.mouseDown(front(), name, index, x, y);
 }
 
 void Driver::setText(const std::string &name, const std::string &text, int index)

@@ -41,7 +41,6 @@ public:
     }
     void key(const std::string &name, int code, int index = -1);
     void tick(const std::string &timerName, int times = 1);
-    void mouseDown(const std::string &name, double x, double y, int index = -1);
     // Replace a box's text as a paste would (no key events), then report the change.
     void setText(const std::string &name, const std::string &text, int index = -1);
     void select(const std::string &listName, int item);

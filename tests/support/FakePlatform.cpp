@@ -78,7 +78,6 @@ std::string FakePlatform::inputBox(const std::string &prompt, const std::string 
 
 double FakePlatform::random()
 {
-    ++drawsTaken;
     if (!draws_.empty()) {
         const double d = draws_.front();
         draws_.pop_front();

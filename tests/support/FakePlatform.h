@@ -44,12 +44,9 @@ public:
     // What happened.
     int beeps = 0;
     std::vector<Shown> shown;
-    std::vector<std::string> printed; // pdf paths asked for
-    std::size_t drawsTaken = 0;
+    std::vector<std::string> printed;          // pdf paths asked for
     std::vector<std::string> messages() const; // texts of OK boxes, in order
     std::string lastMessage() const;           // text of the last box of any kind
-    bool pendingReplies() const { return !yesNo_.empty() || !inputs_.empty(); }
-    std::size_t pendingDraws() const { return draws_.size(); }
     void clearShown() { shown.clear(); }
 
     // Platform
