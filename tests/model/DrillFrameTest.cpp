@@ -23,10 +23,18 @@ protected:
     Driver d;
 };
 
-TEST_P(EveryDrill, TenRightAnswersEndTheRunAndStoreAFirstTime)
+TEST_P(EveryDrill, ExitLeavesAtOnceAndTenRightAnswersStoreAFirstTime)
 {
     EXPECT_TRUE(d.platform.shown.empty()) << "no best time yet, nothing announced";
     EXPECT_FALSE(d.reachable(GetParam().box)) << "the box waits for Start";
+    d.click("Command11");
+    answerRight();
+    d.click("Command12");
+    EXPECT_EQ(d.frontName(), GetParam().menu);
+    EXPECT_FALSE(d.isOpen(GetParam().screen));
+    EXPECT_TRUE(slot().isEmpty());
+
+    d.open(GetParam().screen);
     d.click("Command11");
     EXPECT_FALSE(d.enabled("Command11"));
     EXPECT_TRUE(d.timerOn("Timer1"));
@@ -38,7 +46,7 @@ TEST_P(EveryDrill, TenRightAnswersEndTheRunAndStoreAFirstTime)
             d.platform.queueNo();
         answerRight();
     }
-    EXPECT_EQ(d.platform.beeps, 10);
+    EXPECT_EQ(d.platform.beeps, 11);
     EXPECT_EQ(d.platform.lastMessage(),
               "You completed 10 questions in 20 seconds.Do you want another go ?");
     EXPECT_EQ(slot().tag(), ValueTag::Double);
@@ -47,37 +55,16 @@ TEST_P(EveryDrill, TenRightAnswersEndTheRunAndStoreAFirstTime)
     EXPECT_FALSE(d.isOpen(GetParam().screen));
 }
 
-TEST_P(EveryDrill, ExitAtAnyTimeReturnsToItsMenu)
-{
-    d.click("Command11");
-    answerRight();
-    d.click("Command12");
-    EXPECT_EQ(d.frontName(), GetParam().menu);
-    EXPECT_FALSE(d.isOpen(GetParam().screen));
-    EXPECT_TRUE(slot().isEmpty());
-}
-
 INSTANTIATE_TEST_SUITE_P(Drills, EveryDrill, ::testing::ValuesIn(kDrills),
                          [](const auto &info) { return std::string(info.param.screen); });
 
 // The frame's own rules, on the make-ten screen (where 0 can be a right answer) with scripted
 // draws: with no options the number shown is Int(r × 10) + 1.
-class Frame : public ::testing::Test
-{
-protected:
-    void start(double draw)
-    {
-        d.open("maketen");
-        d.platform.queueDraw(draw);
-        d.click("Command11");
-    }
-    Driver d;
-};
 
 // Enter on 10 + [?] = 10, one entry after another: untidy entries are cleared at no cost, a
 // wrong answer costs two seconds at once and keeps the question, and the single digit 0 is the
-// right answer.
-TEST_F(Frame, EnterRules)
+// right answer. A Yes at the end starts again at once.
+TEST(DrillFrame, EnterRulesAndYesStartsAgain)
 {
     struct Step
     {
@@ -88,7 +75,10 @@ TEST_F(Frame, EnterRules)
     const Step steps[] = {{"07", "3", "0"}, {"7.", "3", "0"}, {".7", "3", "0"},  {"7a", "3", "0"},
                           {" 7", "3", "0"}, {"-0", "3", "0"}, {"0.0", "3", "0"}, {"", "3", "0"},
                           {"00", "3", "0"}, {"7", "5", "0"},  {"-1", "7", "0"},  {"0", "7", "1"}};
-    start(0.95);
+    Driver d;
+    d.open("maketen");
+    d.platform.queueDraw(0.95);
+    d.click("Command11");
     d.tick("Timer1", 3);
     for (const Step &s : steps) {
         SCOPED_TRACE(s.entry);
@@ -102,10 +92,26 @@ TEST_F(Frame, EnterRules)
     EXPECT_EQ(d.platform.beeps, 1) << "only the right answer beeps";
     d.tick("Timer1");
     EXPECT_EQ(d.caption("time"), "8") << "the stopwatch carries on from the penalty";
+
+    for (int i = 1; i < 10; ++i) {
+        if (i == 9) {
+            d.platform.queueYes();
+            d.platform.queueDraw(0.25);
+        }
+        d.typeEnter("text3", answerText(10 - shownNumber(d, "text1")));
+    }
+    EXPECT_EQ(d.progress().MessageReply.whole(), kYes);
+    EXPECT_EQ(d.frontName(), "maketen");
+    EXPECT_EQ(d.caption("time") + "/" + d.caption("score"), "0/0");
+    EXPECT_TRUE(d.timerOn("Timer1"));
+    EXPECT_FALSE(d.enabled("Command11")) << "Start stays disabled";
+    EXPECT_EQ(d.caption("text1"), "3") << "a new question at once";
+    EXPECT_EQ(d.caption("text3"), "");
+    EXPECT_EQ(d.progress().MakeTenBest.number(), 8);
 }
 
 // The best-time check after a 12-second run (ten ticks and one penalty) against the stored best.
-TEST_F(Frame, BestTimeCheck)
+TEST(DrillFrame, BestTimeCheck)
 {
     const std::string done = "You completed 10 questions in 12 seconds.";
     const std::string again = "Do you want another go ?";
@@ -148,28 +154,6 @@ TEST_F(Frame, BestTimeCheck)
         EXPECT_EQ(run.progress().MakeTenBest.number(), c.kept);
         EXPECT_EQ(run.frontName(), "addmenu");
     }
-}
-
-TEST_F(Frame, YesStartsAgainAtOnce)
-{
-    start(0.95);
-    d.tick("Timer1", 30);
-    for (int i = 0; i < 10; ++i) {
-        if (i == 9) {
-            d.platform.queueYes();
-            d.platform.queueDraw(0.25);
-        }
-        d.typeEnter("text3", answerText(10 - shownNumber(d, "text1")));
-    }
-    EXPECT_EQ(d.progress().MessageReply.whole(), kYes);
-    EXPECT_EQ(d.frontName(), "maketen");
-    EXPECT_EQ(d.caption("time"), "0");
-    EXPECT_EQ(d.caption("score"), "0");
-    EXPECT_TRUE(d.timerOn("Timer1"));
-    EXPECT_FALSE(d.enabled("Command11")) << "Start stays disabled";
-    EXPECT_EQ(d.caption("text1"), "3") << "a new question at once";
-    EXPECT_EQ(d.caption("text3"), "");
-    EXPECT_EQ(d.progress().MakeTenBest.number(), 30);
 }
 
 // Slot selection: a level of 1 to 4 (1 or 2 on div11) and flags of exactly 0 or 1 pick the slot;

@@ -96,8 +96,19 @@ int tens(int v)
     return v / 10 % 10;
 }
 
+// Rules on the two operands of one question.
+using Rule = bool (*)(int a, int b);
+const Rule roundFirst = [](int a, int) { return units(a) == 0; };
+const Rule roundSecond = [](int, int b) { return units(b) == 0; };
+const Rule roundAnswer = [](int a, int b) { return units(a + b) == 0; };
+const Rule exchanges = [](int a, int b) { return units(a) < units(b); };
+
 TEST(DrillQuestions, AdditionLevelsKeepTheirPromises)
 {
+    const Rule noCarry = [](int a, int b) {
+        return units(a) + units(b) <= 9 && tens(a) + tens(b) <= 9;
+    };
+    const Rule noRoundOperand = [](int a, int b) { return units(a) != 0 && units(b) != 0; };
     checkLevels(
         kAdditionLevels, +1,
         {
@@ -105,35 +116,25 @@ TEST(DrillQuestions, AdditionLevelsKeepTheirPromises)
             {1, 2, {1, 8}, {1, 8}, {2, 9}},
             {1, 3, {10, 10}, {1, 9}, {11, 19}},
             {1, 4, {11, 18}, {1, 8}, {12, 19}},
-            {2, 1, {10, 90}, {1, 9}, {11, 99}, [](int a, int) { return units(a) == 0; }},
+            {2, 1, {10, 90}, {1, 9}, {11, 99}, roundFirst},
             {2, 2, {11, 89}, {10, 10}, {21, 99}, [](int a, int) { return units(a) != 0; }},
-            {2, 3, {10, 80}, {10, 80}, {20, 90}, [](int a, int b) { return units(a + b) == 0; }},
+            {2, 3, {10, 80}, {10, 80}, {20, 90}, roundAnswer},
             {2, 4, {11, 89}, {1, 8}, {12, 90}, [](int a, int b) { return units(a) + b <= 10; }},
             {2, 5, {1, 9}, {1, 9}, {10, 17}},
             {2, 6, {11, 19}, {1, 9}, {20, 27}},
-            {2, 7, {11, 89}, {10, 80}, {21, 99}, [](int, int b) { return units(b) == 0; }},
+            {2, 7, {11, 89}, {10, 80}, {21, 99}, roundSecond},
             {2, 8, {11, 89}, {1, 9}, {20, 97}, [](int a, int b) { return units(a) + b >= 10; }},
-            {3,
-             1,
-             {11, 88},
-             {11, 88},
-             {22, 99},
-             [](int a, int b) { return units(a) + units(b) <= 9 && tens(a) + tens(b) <= 9; }},
-            {3, 2, {11, 99}, {10, 90}, {101, 179}, [](int, int b) { return units(b) == 0; }},
-            {3, 3, {10, 90}, {10, 90}, {100, 170}, [](int a, int b) { return units(a + b) == 0; }},
-            {4,
-             1,
-             {11, 99},
-             {11, 99},
-             {22, 198},
-             [](int a, int b) { return units(a) != 0 && units(b) != 0; }},
+            {3, 1, {11, 88}, {11, 88}, {22, 99}, noCarry},
+            {3, 2, {11, 99}, {10, 90}, {101, 179}, roundSecond},
+            {3, 3, {10, 90}, {10, 90}, {100, 170}, roundAnswer},
+            {4, 1, {11, 99}, {11, 99}, {22, 198}, noRoundOperand},
         });
 }
 
 TEST(DrillQuestions, SubtractionLevelsMirrorAdditionAndStayPositive)
 {
-    bool (*exchanges)(int, int) = [](int a, int b) { return units(a) < units(b); };
-    bool (*noExchange)(int, int) = [](int a, int b) { return units(a) > units(b); };
+    const Rule roundDifference = [](int a, int b) { return units(a - b) == 0; };
+    const Rule noExchange = [](int a, int b) { return units(a) > units(b) && tens(a) > tens(b); };
     checkLevels(
         kSubtractionLevels, -1,
         {
@@ -143,20 +144,15 @@ TEST(DrillQuestions, SubtractionLevelsMirrorAdditionAndStayPositive)
             {1, 4, {12, 19}, {1, 8}, {11, 18}},
             {2, 1, {11, 99}, {1, 9}, {10, 90}},
             {2, 2, {21, 99}, {10, 10}, {11, 89}},
-            {2, 3, {20, 90}, {10, 80}, {10, 80}, [](int a, int b) { return units(a - b) == 0; }},
-            {2, 4, {12, 89}, {1, 8}, {11, 88}, noExchange},
+            {2, 3, {20, 90}, {10, 80}, {10, 80}, roundDifference},
+            {2, 4, {12, 89}, {1, 8}, {11, 88}, [](int a, int b) { return units(a) > units(b); }},
             {2, 5, {11, 18}, {2, 9}, {2, 9}, exchanges},
             {2, 6, {21, 28}, {2, 9}, {12, 19}, exchanges},
-            {2, 7, {21, 99}, {10, 80}, {11, 89}, [](int, int b) { return units(b) == 0; }},
+            {2, 7, {21, 99}, {10, 80}, {11, 89}, roundSecond},
             {2, 8, {21, 98}, {2, 9}, {12, 89}, exchanges},
-            {3,
-             1,
-             {22, 99},
-             {11, 88},
-             {11, 88},
-             [](int a, int b) { return units(a) > units(b) && tens(a) > tens(b); }},
-            {3, 2, {111, 189}, {20, 90}, {21, 99}, [](int, int b) { return units(b) == 0; }},
-            {3, 3, {110, 180}, {20, 90}, {20, 90}, [](int, int b) { return units(b) == 0; }},
+            {3, 1, {22, 99}, {11, 88}, {11, 88}, noExchange},
+            {3, 2, {111, 189}, {20, 90}, {21, 99}, roundSecond},
+            {3, 3, {110, 180}, {20, 90}, {20, 90}, roundSecond},
             {4, 1, {12, 99}, {11, 98}, {1, 88}},
         });
 }

@@ -126,12 +126,14 @@ TEST_F(FactorRace, RightFactorsMoveThePupilWithGrowingStepsThenANewNumber)
     EXPECT_EQ(top("youcar"), 945 + 30 * 10);
 }
 
-TEST_F(FactorRace, MalformedTextIsEmptiedAndNeverSubmits)
+// Malformed text is emptied and never checked; wrong factors move the computer on, and three of
+// them send only the pupil back.
+TEST_F(FactorRace, WrongEntriesMoveTheComputerAndThreeSendOnlyThePupilBack)
 {
-    const std::pair<std::string, std::string> cases[] = {
+    const std::pair<std::string, std::string> malformed[] = {
         {"", ""}, {"12a", "12a"}, {"-", "-"}, {"1a2", "2"}, {"007", "7"}, {"4.0", "0"}};
     startOn(24);
-    for (const auto &[typed, shown] : cases) {
+    for (const auto &[typed, shown] : malformed) {
         SCOPED_TRACE(typed);
         d.setText("factorbox", "", 1);
         d.type("factorbox", typed, 1);
@@ -142,11 +144,7 @@ TEST_F(FactorRace, MalformedTextIsEmptiedAndNeverSubmits)
         EXPECT_EQ(d.text("factorbox", 1), "");
         EXPECT_EQ(top("compcar"), 945) << "nothing was checked";
     }
-}
-
-TEST_F(FactorRace, WrongEntriesMoveTheComputerAndThreeSendOnlyThePupilBack)
-{
-    startOn(24);
+    d.setText("factorbox", "", 1);
     d.typeEnter("factorbox", "1", 1);
     d.typeEnter("factorbox", "2", 2);
     d.typeEnter("factorbox", "2", 3); // a repeat divides 24 but is wrong
