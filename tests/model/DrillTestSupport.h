@@ -53,16 +53,7 @@ inline double shownNumber(Driver &d, const char *name)
 inline double rightAnswer(Driver &d, const DrillCase &c)
 {
     const double a = shownNumber(d, c.left), b = shownNumber(d, c.right);
-    switch (c.op) {
-    case '+':
-        return a + b;
-    case '-':
-        return a - b;
-    case '*':
-        return a * b;
-    default:
-        return a / b;
-    }
+    return c.op == '+' ? a + b : c.op == '-' ? a - b : c.op == '*' ? a * b : a / b;
 }
 
 // Answers are whole or have one decimal place.

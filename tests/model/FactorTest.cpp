@@ -9,8 +9,6 @@
 namespace nb::test {
 namespace {
 
-constexpr std::uint32_t kRed = 255, kYellow = 65535;
-
 double drawFor(int n) // the draw that makes the number n (2 to 31)
 {
     return (n - 2 + 0.5) / 30;
@@ -56,6 +54,9 @@ TEST_F(FactorRace, RoadIsFourHundredSixtyNineNarrowingSilverLinesDrawnOnce)
     d.tick("compmover", 10);
     d.typeEnter("factorbox", "1", 1);
     EXPECT_EQ(d.control("road").drawing.revision, revision);
+    d.click("exit");
+    EXPECT_EQ(d.frontName(), "divmenu");
+    EXPECT_FALSE(d.isOpen("factor"));
 }
 
 TEST_F(FactorRace, StoredLevelIsOfferedAndSetsTheComputersPace)
@@ -108,7 +109,7 @@ TEST_F(FactorRace, RightFactorsMoveThePupilWithGrowingStepsThenANewNumber)
     d.typeEnter("factorbox", "2", 2);
     EXPECT_EQ(std::vector<std::uint32_t>({d.backColor("factorbox", 2), d.backColor("factorbox", 3),
                                           d.backColor("factorbox", 4)}),
-              std::vector<std::uint32_t>({kRed, kYellow, kRed}));
+              std::vector<std::uint32_t>({colors::red, colors::yellow, colors::red}));
     EXPECT_FALSE(d.enabled("factorbox", 2));
     EXPECT_EQ(d.front().focusIndex(), 3);
     // Steps 1 and 2: top +30 +60, left +2.13 +4.26, width +7.2 +14.4; the height follows.
@@ -180,7 +181,7 @@ TEST_F(FactorRace, WrongEntriesMoveTheComputerAndThreeSendOnlyThePupilBack)
     EXPECT_EQ(d.platform.messages().size(), 2u);
 }
 
-TEST_F(FactorRace, FromTheMenuTheSeventeenthRightFactorWinsAndTheLastLevelWonIsKept)
+TEST_F(FactorRace, FromTheMenuTheSeventeenthRightFactorWinsTheFiftyFifthMoveLoses)
 {
     d.progress().FactorBest = Value::int16(5);
     d.platform.queueNo(); // stay on level 1
@@ -204,33 +205,29 @@ TEST_F(FactorRace, FromTheMenuTheSeventeenthRightFactorWinsAndTheLastLevelWonIsK
     EXPECT_EQ(top("youcar"), 945);
     EXPECT_EQ(d.caption("Questionno"), "13");
 
-    // The computer's 55th move would cross the line: it loses the race for the pupil.
+    // The computer's 55th move would cross the line and lose the race for the pupil: here a
+    // wrong entry makes it, and Yes starts again with no wrong entries counted.
     d.tick("compmover", 54);
     EXPECT_EQ(d.platform.shown.size(), 2u);
-    d.platform.queueNo();
-    d.tick("compmover");
-    EXPECT_EQ(d.platform.lastMessage(), "You have lost on level 2. Do you want to try again ?");
-    EXPECT_EQ(d.frontName(), "divmenu");
-    EXPECT_FALSE(d.isOpen("factor"));
-    EXPECT_EQ(d.progress().FactorBest.number(), 1);
-}
-
-TEST_F(FactorRace, AWrongEntryCanLoseTheRaceYesStartsAgainExitLeaves)
-{
-    startOn(24);
-    d.tick("compmover", 54);
     d.platform.queueYes();
     d.platform.queueDraw(drawFor(5));
     d.typeEnter("factorbox", "7", 1);
-    EXPECT_EQ(d.platform.lastMessage(), "You have lost on level 1. Do you want to try again ?");
+    EXPECT_EQ(d.platform.lastMessage(), "You have lost on level 2. Do you want to try again ?");
     EXPECT_EQ(top("compcar"), 945);
     EXPECT_EQ(d.caption("Questionno"), "5");
     d.typeEnter("factorbox", "2", 1);
     d.typeEnter("factorbox", "3", 1);
     EXPECT_TRUE(d.platform.messages().empty()) << "the losing entry does not count on";
-    d.click("exit");
+
+    // This time a tick makes the 55th move (two were made by the wrong entries); No leaves.
+    d.tick("compmover", 52);
+    EXPECT_EQ(d.platform.shown.size(), 3u);
+    d.platform.queueNo();
+    d.tick("compmover");
+    EXPECT_EQ(d.platform.lastMessage(), "You have lost on level 2. Do you want to try again ?");
     EXPECT_EQ(d.frontName(), "divmenu");
     EXPECT_FALSE(d.isOpen("factor"));
+    EXPECT_EQ(d.progress().FactorBest.number(), 1) << "the last level won is kept";
 }
 
 } // namespace

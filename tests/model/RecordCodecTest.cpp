@@ -59,10 +59,8 @@ std::string hex(std::string_view b)
 TEST(RecordCodec, NewPupilWithOneDrillTime)
 {
     Driver d;
-    d.open("cover");
-    d.click("Command1");
-    d.platform.queueInput("Ann");
-    d.click("Command2");
+    d.toMainMenu();
+    d.newPupil("Ann");
     d.platform.queueNo();
     bestTimeCheck(d.platform, d.progress(), &d.progress().AddBestNormal1, "41.5", 10);
 

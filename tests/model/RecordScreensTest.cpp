@@ -59,17 +59,11 @@ protected:
         auto run = std::make_unique<Driver>();
         run->platform.setDocuments((root / "docs").string());
         run->platform.setDrives({root.string()});
-        run->open("cover");
-        run->click("Command1");
+        run->toMainMenu();
         return run;
     }
     fs::path records() const { return root / "docs" / "NUMBROOK records"; }
 
-    void newPupil(const std::string &name = "Ann Smith")
-    {
-        d->platform.queueInput(name);
-        d->click("Command2");
-    }
     // EXIT, "Do you want to save?" Yes.
     void exitAndSave()
     {
@@ -120,7 +114,7 @@ TEST_F(RecordScreens, SaveNameRulesAndNoOverwriting)
         fs::create_directories(records() / "ann.DAT");
         spit(records() / "tom.DAT", "someone else's record");
         d = fresh();
-        newPupil();
+        d->newPupil();
         exitAndSave();
         ASSERT_EQ(d->frontName(), "Filesave");
         EXPECT_EQ(d->caption("lbldirname"), records().string());
@@ -148,7 +142,7 @@ TEST_F(RecordScreens, SaveNameRulesAndNoOverwriting)
 // of an older, longer record, loads and is written back there, with the tail kept past its end.
 TEST_F(RecordScreens, SavedRecordLoadsAndIsWrittenBackWhereItCameFrom)
 {
-    newPupil("Zoë Łukasz");
+    d->newPupil("Zoë Łukasz");
     d->platform.queueNo();
     bestTimeCheck(d->platform, d->progress(), &d->progress().AddBestNeg3, "37.5", 10);
     exitAndSave();
@@ -252,7 +246,7 @@ TEST_F(RecordScreens, ALoadThatFailsChangesNothingAndSaysWhy)
 TEST_F(RecordScreens, AFailedSaveKeepsEverythingAndCanBeRetriedElsewhere)
 {
     fs::create_directories(root / "stick");
-    newPupil();
+    d->newPupil();
     d->progress().MulBest = Value::real(19);
     exitAndSave();
     pickFolderOnDrive("stick", false); // its files are shown and OK will save there

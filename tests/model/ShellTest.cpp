@@ -9,16 +9,7 @@ namespace {
 class Shell : public ::testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        d.open("cover");
-        d.click("Command1");
-    }
-    void newPupil(const std::string &name = "Ann Smith")
-    {
-        d.platform.queueInput(name);
-        d.click("Command2");
-    }
+    void SetUp() override { d.toMainMenu(); }
     Driver d;
 };
 
@@ -27,7 +18,7 @@ TEST_F(Shell, CoverHandsOverAndExitWithNoPupilEndsAtOnce)
     EXPECT_EQ(d.frontName(), "mainmenu");
     EXPECT_FALSE(d.isOpen("cover"));
     EXPECT_EQ(d.caption("Label2"), "What would you like to do today?");
-    newPupil(""); // a cancelled name leaves no pupil
+    d.newPupil(""); // a cancelled name leaves no pupil
     EXPECT_TRUE(d.progress().Unsaved.equalsNumber(0));
     EXPECT_TRUE(d.enabled("Command2"));
     d.click("Command1");
@@ -41,7 +32,7 @@ TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
     d.progress().FactorBest = Value::int16(7);
     d.progress().DartsBest = Value::int16(3);
     const std::string name = "Zoë Ångström" + std::string(1000, 'x'); // kept whole
-    newPupil(name);
+    d.newPupil(name);
     ASSERT_EQ(d.platform.shown.size(), 1u);
     EXPECT_EQ(d.platform.shown[0].text, "Please enter your full name.");
     EXPECT_EQ(d.progress().PupilName.str(), name);
@@ -58,7 +49,7 @@ TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
 
 TEST_F(Shell, ExitWithAPupilAsksToSaveAndNoEnds)
 {
-    newPupil();
+    d.newPupil();
     d.platform.queueNo();
     d.click("Command1");
     EXPECT_EQ(d.platform.lastMessage(), "Do you want to save?");
@@ -68,7 +59,7 @@ TEST_F(Shell, ExitWithAPupilAsksToSaveAndNoEnds)
 
 TEST_F(Shell, TopicButtonsOpenTheirMenusAndExitReturns)
 {
-    newPupil();
+    d.newPupil();
     const std::pair<const char *, const char *> topics[] = {{"Command5", "addmenu"},
                                                             {"Command6", "submenu"},
                                                             {"Command7", "mulmenu"},
@@ -86,7 +77,7 @@ TEST_F(Shell, TopicButtonsOpenTheirMenusAndExitReturns)
 
 TEST_F(Shell, OptionBoxesAreReadOnlyWhenAnActivityButtonIsPressed)
 {
-    newPupil();
+    d.newPupil();
     d.progress().AddNegatives = Value::int16(1);
     d.click("Command5");
     EXPECT_EQ(d.control("equationneg").value, 1) << "ticked from the flag on opening";
@@ -113,7 +104,7 @@ TEST_F(Shell, OptionBoxesAreReadOnlyWhenAnActivityButtonIsPressed)
 
 TEST_F(Shell, PairMenuLevelsComeFromTheButtonsPlaceAndExitLeavesItOpenBehind)
 {
-    newPupil();
+    d.newPupil();
     d.click("Command9");
     for (int i = 0; i < 3; ++i) {
         d.click("fourlev", i);
@@ -130,7 +121,7 @@ TEST_F(Shell, PairMenuLevelsComeFromTheButtonsPlaceAndExitLeavesItOpenBehind)
 
 TEST_F(Shell, UnbuiltActivitiesAreDisabled)
 {
-    newPupil();
+    d.newPupil();
     d.click("Command5");
     EXPECT_EQ(d.enabled("Command9"), d.registry.has("ADD333b"));
     EXPECT_EQ(d.enabled("Command2"), d.registry.has("ADD333"));

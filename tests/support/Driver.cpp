@@ -8,14 +8,6 @@
 
 namespace nb::test {
 
-namespace {
-ScreenRegistry &filled(ScreenRegistry &r)
-{
-    registerAllScreens(r);
-    return r;
-}
-} // namespace
-
 std::string utf8(int code)
 {
     const auto c = static_cast<unsigned>(code);
@@ -30,8 +22,10 @@ std::string utf8(int code)
 }
 
 Driver::Driver()
-    : app(platform, filled(registry))
-{}
+    : app(platform, registry)
+{
+    registerAllScreens(registry);
+}
 
 Screen &Driver::open(const std::string &name)
 {
@@ -39,6 +33,18 @@ Screen &Driver::open(const std::string &name)
     if (!s)
         throw std::runtime_error("screen " + name + " could not be opened");
     return *s;
+}
+
+void Driver::toMainMenu()
+{
+    open("cover");
+    click("Command1");
+}
+
+void Driver::newPupil(const std::string &name)
+{
+    platform.queueInput(name);
+    click("Command2");
 }
 
 Screen &Driver::front()

@@ -24,6 +24,10 @@ public:
 
     // Open a screen directly, as its menu would (the menu's settings are the test's to make).
     Screen &open(const std::string &name);
+    // The main menu, reached through the cover as at start-up.
+    void toMainMenu();
+    // NEW on the main menu, with the name given to its box (an empty name cancels).
+    void newPupil(const std::string &name = "Ann Smith");
     // The screen in front (fails the test when none is open).
     Screen &front();
     std::string frontName() const;

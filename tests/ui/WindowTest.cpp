@@ -120,9 +120,8 @@ protected:
         window.show();
         EXPECT_TRUE(window.start("probe"));
         QCoreApplication::processEvents();
-        return probe();
+        return *static_cast<Probe *>(app.front());
     }
-    Probe &probe() { return *static_cast<Probe *>(app.front()); }
     template<class W = QWidget> W *widget(const std::string &name, int index = -1)
     {
         auto *w = dynamic_cast<W *>(window.frontView()->widgetFor(name, index));
@@ -219,9 +218,15 @@ TEST_F(WindowTest, FocusFollowsTheScreensRequest)
     EXPECT_TRUE(widget("answer")->hasFocus());
 }
 
-TEST_F(WindowTest, StockWidgetsReportTheirStateBeforeTheEvent)
+TEST_F(WindowTest, WidgetsReportTheirStateBeforeTheEvent)
 {
-    Probe &p = open();
+    Probe &p = open({1600, 1200}); // scale 2: one pixel is 7.5 twips
+    QTest::mousePress(widget("board"), Qt::LeftButton, {}, QPoint(20, 40));
+    ASSERT_EQ(p.downs.size(), 1u);
+    EXPECT_EQ(p.downs[0].name, "board");
+    EXPECT_DOUBLE_EQ(p.downs[0].x, 150) << "twips from the control's corner";
+    EXPECT_DOUBLE_EQ(p.downs[0].y, 300);
+
     click("tick");
     EXPECT_EQ(p.ctl("tick").value, 1);
     EXPECT_TRUE(widget<QCheckBox>("tick")->isChecked());
@@ -243,16 +248,6 @@ TEST_F(WindowTest, StockWidgetsReportTheirStateBeforeTheEvent)
     EXPECT_EQ(widget<QListWidget>("choice")->currentRow(), 0);
     EXPECT_EQ(widget<QScrollBar>("slider")->value(), 55);
     EXPECT_EQ(p.changes.size(), 2u);
-}
-
-TEST_F(WindowTest, MouseDownReportsTwipsFromTheControlsCorner)
-{
-    Probe &p = open({1600, 1200}); // scale 2: one pixel is 7.5 twips
-    QTest::mousePress(widget("board"), Qt::LeftButton, {}, QPoint(20, 40));
-    ASSERT_EQ(p.downs.size(), 1u);
-    EXPECT_EQ(p.downs[0].name, "board");
-    EXPECT_DOUBLE_EQ(p.downs[0].x, 150);
-    EXPECT_DOUBLE_EQ(p.downs[0].y, 300);
 }
 
 TEST_F(WindowTest, KeysAreSeenBeforeTheyAreApplied)
