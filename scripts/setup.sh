@@ -8,6 +8,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev
   libgtest-dev libbenchmark-dev
   fonts-comic-neue
+  locales
 )
 
 missing=()
@@ -17,7 +18,22 @@ for p in "${packages[@]}"; do
   fi
 done
 
+as_root=()
+if [ "$(id -u)" -ne 0 ] && command -v sudo >/dev/null 2>&1; then
+  as_root=(sudo)
+fi
+
+# The tests check that numbers ignore a comma locale, so one must be there to switch to.
+comma_locale() {
+  if ! locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$'; then
+    if [ "$(id -u)" -eq 0 ] || [ ${#as_root[@]} -gt 0 ]; then
+      "${as_root[@]}" localedef -i de_DE -c -f UTF-8 de_DE.UTF-8 || echo "Could not make the de_DE.UTF-8 locale" >&2
+    fi
+  fi
+}
+
 if [ ${#missing[@]} -eq 0 ]; then
+  comma_locale
   exit 0
 fi
 
@@ -38,3 +54,4 @@ if ! "${apt_get[@]}" update -qq || ! "${apt_get[@]}" install -y -qq --no-install
   echo "Installing failed. Needed Debian packages: ${missing[*]}" >&2
   exit 1
 fi
+comma_locale

@@ -1,10 +1,18 @@
 #include "core/NumberText.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 
 namespace nb {
+
+std::string generalText(double value, int significant)
+{
+    // to_chars writes "." as the point whatever the locale (printf would follow LC_NUMERIC).
+    char buf[64];
+    const auto [end, ec] =
+        std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, significant);
+    return ec == std::errc() ? std::string(buf, end) : std::string("0");
+}
 
 double readNumber(std::string_view text)
 {
@@ -42,8 +50,15 @@ double readNumber(std::string_view text)
         if (expDigits)
             digits += exp;
     }
-    double v = std::strtod(digits.c_str(), nullptr);
-    if (!std::isfinite(v))
+    // from_chars reads "." as the point whatever the locale; it takes no leading "+".
+    const char *first = digits.data();
+    const char *last = digits.data() + digits.size();
+    if (first != last && *first == '+')
+        ++first;
+    double v = 0.0;
+    const auto [end, ec] = std::from_chars(first, last, v);
+    (void)end;
+    if (ec != std::errc() || !std::isfinite(v)) // out of range reads as 0, like no number
         return 0.0;
     return v == 0.0 ? 0.0 : v;
 }
@@ -52,9 +67,7 @@ std::string numberText(double value)
 {
     if (value == 0.0 || std::isnan(value))
         return "0";
-    char buf[64];
-    std::snprintf(buf, sizeof buf, "%.15g", value);
-    std::string s(buf);
+    std::string s = generalText(value, 15);
     for (char &c : s)
         if (c == 'e')
             c = 'E';

@@ -15,6 +15,10 @@ double readNumber(std::string_view text);
 // separators and no trailing zeros; at most 15 significant digits so that 0.1 + 0.2 shows as 0.3.
 std::string numberText(double value);
 
+// A number with at most `significant` significant digits, as printf's %g writes it but always
+// with "." as the point, whatever the locale.
+std::string generalText(double value, int significant);
+
 // True when the text is exactly the plain decimal text of the number it reads as, or is exactly
 // "0" for zero: the test every answer box applies before it accepts an entry.
 bool isCleanNumberText(std::string_view text);

@@ -14,6 +14,8 @@ enum class MsgIcon { None, Critical, Question, Exclamation, Information };
 // Replies of a Yes/No box.
 constexpr int kYes = 6;
 constexpr int kNo = 7;
+// A Yes/No box closed or escaped without either answer (only where the caller allows it).
+constexpr int kCancel = 2;
 
 struct PrintOutcome
 {

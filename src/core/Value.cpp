@@ -2,7 +2,6 @@
 
 #include "core/NumberText.h"
 
-#include <cstdio>
 #include <limits>
 
 namespace nb {
@@ -43,9 +42,7 @@ std::string Value::str() const
         return std::get<std::string>(data_);
     case ValueTag::Float: {
         // A single-precision number shows with the 7 digits it really holds.
-        char buf[48];
-        std::snprintf(buf, sizeof buf, "%.7g", std::get<double>(data_));
-        return numberText(readNumber(buf));
+        return numberText(readNumber(generalText(std::get<double>(data_), 7)));
     }
     default:
         return numberText(number());

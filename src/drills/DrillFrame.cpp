@@ -2,7 +2,7 @@
 
 #include "core/NumberText.h"
 #include "core/Platform.h"
-#include "drills/BestTimeCheck.h"
+#include "activity/BestTimeCheck.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "drills/MakeDrill.h"
 
-#include "drills/BestTimeCheck.h"
+#include "activity/BestTimeCheck.h"
 
 namespace nb {
 

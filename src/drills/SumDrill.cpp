@@ -1,6 +1,6 @@
 #include "drills/SumDrill.h"
 
-#include "drills/BestTimeCheck.h"
+#include "activity/BestTimeCheck.h"
 
 namespace nb {
 

@@ -2,9 +2,9 @@
 
 #include "core/NumberText.h"
 #include "core/Platform.h"
-#include "drills/BestTimeCheck.h"
-#include "written/AnswerBoxFilter.h"
-#include "written/PraiseList.h"
+#include "activity/BestTimeCheck.h"
+#include "activity/AnswerBoxFilter.h"
+#include "activity/PraiseList.h"
 
 #include <algorithm>
 

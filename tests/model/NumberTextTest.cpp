@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <cstdlib>
+#include <string>
+
 namespace nb {
 namespace {
 
@@ -50,6 +54,36 @@ TEST(Value, EmptyEqualsZeroAndKeepsItsTag)
     EXPECT_EQ(Value::single(0.1f).str(), "0.1");
     EXPECT_EQ(Value::real(2.5).whole(), 2);
     EXPECT_EQ(Value::real(3.5).whole(), 4);
+}
+
+// A German or French school runs the program with a comma as the decimal point in its locale:
+// numbers must still read and show with ".".
+TEST(NumberText, IgnoresACommaLocale)
+{
+    const char *previous = std::setlocale(LC_NUMERIC, nullptr);
+    const std::string saved = previous ? previous : "C";
+    const char *comma = nullptr;
+    for (const char *name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"})
+        if (std::setlocale(LC_NUMERIC, name)) {
+            comma = name;
+            break;
+        }
+    if (!comma) {
+        // CI installs the locale (scripts/setup.sh); only a developer's machine may lack it.
+        if (std::getenv("CI"))
+            FAIL() << "no comma locale installed (de_DE.UTF-8)";
+        GTEST_SKIP() << "no comma locale installed (de_DE.UTF-8)";
+    }
+    EXPECT_STREQ(std::localeconv()->decimal_point, ",") << comma;
+    EXPECT_EQ(numberText(2.5), "2.5");
+    EXPECT_EQ(numberText(-174.7), "-174.7");
+    EXPECT_EQ(readNumber("2.5"), 2.5);
+    EXPECT_EQ(readNumber("-90.1"), -90.1);
+    EXPECT_EQ(readNumber("2,5"), 2);
+    EXPECT_TRUE(isCleanNumberText("26.5"));
+    EXPECT_EQ(Value::single(0.1f).str(), "0.1");
+    EXPECT_EQ(Value::real(37.5).str(), "37.5");
+    std::setlocale(LC_NUMERIC, saved.c_str());
 }
 
 } // namespace

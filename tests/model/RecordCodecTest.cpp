@@ -1,7 +1,7 @@
 // The record file format byte for byte: golden records built here from their parts, every tag in
 // odd places, truncation at every byte, and names in and out of the Windows-1252 code page.
 #include "shell/record/RecordCodec.h"
-#include "drills/BestTimeCheck.h"
+#include "activity/BestTimeCheck.h"
 #include "shell/record/CodePage.h"
 #include "support/Driver.h"
 

@@ -1,5 +1,5 @@
 // The save and load screens as a pupil or teacher uses them, in a folder of their own.
-#include "drills/BestTimeCheck.h"
+#include "activity/BestTimeCheck.h"
 #include "shell/record/RecordCodec.h"
 #include "support/Driver.h"
 

@@ -3,8 +3,8 @@
 // digits of every question scripted.
 #include "core/PupilProgress.h"
 #include "support/Driver.h"
-#include "written/AnswerBoxFilter.h"
-#include "written/PraiseList.h"
+#include "activity/AnswerBoxFilter.h"
+#include "activity/PraiseList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "drills/BestTimeCheck.h"
+#include "activity/BestTimeCheck.h"
 
 #include "core/NumberText.h"
 #include "core/Platform.h"

@@ -1,4 +1,4 @@
-#include "written/AnswerBoxFilter.h"
+#include "activity/AnswerBoxFilter.h"
 
 #include "core/NumberText.h"
 
