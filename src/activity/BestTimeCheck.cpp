@@ -1,5 +1,6 @@
 #include "activity/BestTimeCheck.h"
 
+#include "activity/Ask.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
@@ -10,16 +11,15 @@ void announceBestTime(Platform &platform, PupilProgress &progress, const Value *
 {
     if (!slot || !(slot->number() > 0))
         return;
-    progress.MessageText = Value::text("Your best time is " + slot->str() + " seconds.");
-    platform.message(progress.MessageText.asText());
+    tell(platform, progress, "Your best time is " + slot->str() + " seconds.");
 }
 
 int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
-                  const std::string &timeText, int questions)
+                  double seconds, int questions)
 {
-    std::string msg =
-        "You completed " + std::to_string(questions) + " questions in " + timeText + " seconds.";
-    const double t = readNumber(timeText);
+    std::string msg = "You completed " + std::to_string(questions) + " questions in " +
+                      numberText(seconds) + " seconds.";
+    const double t = seconds;
     if (slot) {
         const double best = slot->number();
         if (best == 0 || t < best) {
@@ -29,10 +29,7 @@ int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
         }
     }
     msg += "Do you want another go ?";
-    progress.MessageText = Value::text(msg);
-    const int reply = platform.askYesNo(msg);
-    progress.MessageReply = Value::int16(std::int16_t(reply));
-    return reply;
+    return ask(platform, progress, msg);
 }
 
 } // namespace nb

@@ -15,12 +15,12 @@ struct PupilProgress;
 // A null slot (no slot for the chosen options) announces nothing.
 void announceBestTime(Platform &platform, PupilProgress &progress, const Value *slot);
 
-// Ends a run of `questions` questions that took the time shown as `timeText`: builds the
+// Ends a run of `questions` questions that took `seconds`: builds the
 // closing message, stores a first or faster time in the slot (an equal time is not a new best),
 // asks "Do you want another go ?" and returns the reply (kYes or kNo), also kept in MessageReply.
 // A null slot stores nothing and praises nothing.
 int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
-                  const std::string &timeText, int questions);
+                  double seconds, int questions);
 
 // Slot selection. A flag counts as set only when it equals 1 and as clear only when it equals 0
 // (a flag never written is 0); a level counts only when it is a whole number in range. Anything

@@ -47,6 +47,7 @@ DrillFrame::DrillFrame(App &app, Look look)
     : Screen(app)
     , look_(std::move(look))
     , draws_([this] { return draw(); })
+    , run_(*this, {}, kQuestions)
 {
     setSize(kWidth, kHeight);
     setBackColor(look_.theme);
@@ -138,7 +139,7 @@ void DrillFrame::onClick(const std::string &name, int)
 void DrillFrame::onTimer(const std::string &name)
 {
     if (name == "Timer1")
-        show("time", shown("time") + 1);
+        run_.tick();
 }
 
 void DrillFrame::onKeyPress(const std::string &name, int, int &key)
@@ -151,11 +152,7 @@ void DrillFrame::onKeyPress(const std::string &name, int, int &key)
 
 void DrillFrame::start()
 {
-    setEnabled("Command11", false);
-    caption("score") = "0";
-    caption("time") = "0";
-    setTimer("Timer1", true);
-    running_ = true;
+    run_.begin();
     nextQuestion();
 }
 
@@ -171,7 +168,7 @@ void DrillFrame::nextQuestion()
 void DrillFrame::enter()
 {
     Control &box = ctl(look_.answerBox);
-    if (!running_)
+    if (!run_.running())
         return;
     // A malformed entry (07, 5., .5, 5a, " 5", -0, 0.0, an empty box) is cleared: no penalty.
     if (!isCleanNumberText(box.caption)) {
@@ -180,26 +177,21 @@ void DrillFrame::enter()
     }
     if (isRight(readNumber(box.caption))) {
         platform().beep();
-        show("score", shown("score") + 1);
-        if (shown("score") >= kQuestions)
+        if (run_.scorePoint())
             finish();
         else
             nextQuestion();
         return;
     }
     // Wrong: a two-second penalty at once, the same question again.
-    show("time", shown("time") + 2);
+    run_.penalty(2);
     box.caption.clear();
     setFocus(look_.answerBox);
 }
 
 void DrillFrame::finish()
 {
-    setTimer("Timer1", false);
-    running_ = false;
-    const int reply =
-        bestTimeCheck(platform(), progress(), bestSlot(), caption("time"), kQuestions);
-    if (reply == kYes)
+    if (run_.finish(platform(), progress(), bestSlot()) == kYes)
         start();
     else
         handOver(look_.menu);

@@ -6,6 +6,7 @@
 //
 // The sum is laid out as  text1 text2 text3 text4 Text5 : the pupil types into Text5 (the answer
 // after the equals sign) or, on the screens that ask for a missing number, into text3.
+#include "activity/TimedRun.h"
 #include "core/PupilProgress.h"
 #include "core/Screen.h"
 #include "drills/Draws.h"
@@ -73,7 +74,7 @@ private:
 
     Look look_;
     Draws draws_;
-    bool running_ = false;
+    TimedRun run_;
 };
 
 } // namespace nb

@@ -1,5 +1,6 @@
 #include "puzzles/factor.h"
 
+#include "activity/Ask.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
@@ -235,10 +236,7 @@ double Factor::levelValue() const
 
 int Factor::ask(const std::string &text)
 {
-    progress().MessageText = Value::text(text);
-    const int reply = platform().askYesNo(text);
-    progress().MessageReply = Value::int16(std::int16_t(reply));
-    return reply;
+    return nb::ask(platform(), progress(), text);
 }
 
 void Factor::showCar(const char *name, const Place &p)

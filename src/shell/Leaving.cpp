@@ -1,5 +1,6 @@
 #include "shell/Leaving.h"
 
+#include "activity/Ask.h"
 #include "core/App.h"
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
@@ -13,9 +14,7 @@ void leaveProgram(App &app)
         app.endProgram();
         return;
     }
-    p.MessageText = Value::text("Do you want to save?");
-    const int reply = app.platform().askYesNo(p.MessageText.asText());
-    p.MessageReply = Value::int16(std::int16_t(reply));
+    const int reply = ask(app.platform(), p, "Do you want to save?");
     if (reply != kYes) {
         app.endProgram();
         return;

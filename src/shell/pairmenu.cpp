@@ -100,8 +100,8 @@ void PairMenu::showChosenLevel()
 
 void PairMenu::exitMenu()
 {
-    // Kept as the program has always done it: the main menu is shown and the addition menu is
-    // closed, so this menu stays open behind the main menu.
+    // EXIT shows the main menu and closes the addition menu (not this one), so this menu stays
+    // open behind the main menu and comes back as it was when the main menu's button is used.
     app().show("mainmenu");
     app().close("addmenu");
 }

@@ -36,8 +36,7 @@ void Add333::newQuestion()
 double Add333::keyReference(const std::string &box)
 {
     // The units box takes its reference from the first number's units digit, not from its own
-    // text: where that digit is 0 the units box accepts untidy text such as "07" as 7. Kept as
-    // this screen's behaviour.
+    // text: where that digit is 0 the units box accepts untidy text such as "07" as 7.
     if (box == "Text11")
         return readNumber(caption("Text5"));
     return CarryMethod::keyReference(box);
@@ -46,14 +45,15 @@ double Add333::keyReference(const std::string &box)
 void Add333::finishExercise()
 {
     stopExercise();
-    std::string message = "You completed 5 questions in " + timeText() + " seconds.";
-    // This screen's own rule, kept on purpose: once a best time exists every run counts as
-    // beating it, and the best is always replaced by this run's time, faster or not.
+    const std::string time = numberText(run().seconds());
+    std::string message = "You completed 5 questions in " + time + " seconds.";
+    // On this screen, once a best time exists every run counts as beating it, and the best is
+    // always replaced by this run's time, faster or not.
     Value &best = bestTime();
     if (best.number() >= 0) {
         if (best.number() != 0)
             message += " You have beaten your best time!!! ";
-        best = Value::real(readNumber(timeText()));
+        best = Value::real(run().seconds());
     }
     askAnotherGo(std::move(message));
 }

@@ -2,6 +2,7 @@
 
 #include "core/NumberText.h"
 #include "core/Platform.h"
+#include "activity/Ask.h"
 #include "activity/BestTimeCheck.h"
 #include "activity/AnswerBoxFilter.h"
 #include "activity/PraiseList.h"
@@ -28,6 +29,7 @@ WrittenFrame::WrittenFrame(App &app, Value PupilProgress::*best, std::string men
     : Screen(app)
     , best_(best)
     , menu_(std::move(menu))
+    , run_(*this, {}, kQuestions)
 {
     setSize(12000, 9000);
     setBackColor(kDesk);
@@ -183,7 +185,7 @@ void WrittenFrame::onClick(const std::string &name, int index)
 void WrittenFrame::onTimer(const std::string &name)
 {
     if (name == "Timer1")
-        addSeconds(1);
+        run_.tick();
 }
 
 void WrittenFrame::onKeyPress(const std::string &name, int index, int &key)
@@ -209,21 +211,13 @@ int WrittenFrame::drawDigit(const char *label, int n, int lo)
 
 void WrittenFrame::startExercise()
 {
-    setEnabled("Command11", false);
-    caption("score") = "0";
-    caption("time") = "0";
-    setTimer("Timer1", true);
+    run_.begin();
     newQuestion();
 }
 
 void WrittenFrame::backToMenu()
 {
     handOver(menu_);
-}
-
-void WrittenFrame::addSeconds(int seconds)
-{
-    caption("time") = numberText(readNumber(caption("time")) + seconds);
 }
 
 void WrittenFrame::rightEntry()
@@ -234,7 +228,7 @@ void WrittenFrame::rightEntry()
 void WrittenFrame::wrongEntry(const std::string &box)
 {
     caption(box).clear();
-    addSeconds(2);
+    run_.penalty(2);
 }
 
 void WrittenFrame::clearPage()
@@ -252,31 +246,25 @@ void WrittenFrame::questionDone()
     setPrompt(praiseFor(draw()));
     setVisible("Command10", true);
     setFocus("Command10");
-    const double score = readNumber(caption("score")) + 1;
-    caption("score") = numberText(score);
-    if (score == kQuestions)
+    if (run_.scorePoint())
         finishExercise();
 }
 
 void WrittenFrame::stopExercise()
 {
     setVisible("Command10", false);
-    setTimer("Timer1", false);
+    run_.stop();
 }
 
 void WrittenFrame::finishExercise()
 {
-    stopExercise();
-    carryOn(bestTimeCheck(platform(), progress(), &bestTime(), timeText(), kQuestions));
+    setVisible("Command10", false);
+    carryOn(run_.finish(platform(), progress(), &bestTime()));
 }
 
 void WrittenFrame::askAnotherGo(std::string message)
 {
-    message += "Do you want another go ?";
-    progress().MessageText = Value::text(message);
-    const int reply = platform().askYesNo(message);
-    progress().MessageReply = Value::int16(std::int16_t(reply));
-    carryOn(reply);
+    carryOn(ask(platform(), progress(), message + "Do you want another go ?"));
 }
 
 void WrittenFrame::carryOn(int reply)

@@ -3,6 +3,7 @@
 // paper, a prompt line under it, the stopwatch and score, and Start, Next and Exit. An exercise
 // is five questions; each answer box takes one entry at a time through the answer-box key
 // filter, a right entry beeps and a wrong one is emptied and costs two seconds.
+#include "activity/TimedRun.h"
 #include "core/PupilProgress.h"
 #include "core/Screen.h"
 
@@ -72,8 +73,6 @@ protected:
 
     void startExercise();
     void backToMenu();
-    // Seconds added to the stopwatch (a tick, or a penalty).
-    void addSeconds(int seconds);
     // A right entry beeps; a wrong one empties the box and adds two seconds.
     void rightEntry();
     void wrongEntry(const std::string &box);
@@ -90,7 +89,7 @@ protected:
     void stopExercise();
 
     Value &bestTime() { return progress().*best_; }
-    const std::string &timeText() { return caption("time"); }
+    const TimedRun &run() const { return run_; }
     bool isAnswerBox(std::string_view name) const;
 
     bool questionComplete_ = false;
@@ -102,6 +101,7 @@ private:
     Value PupilProgress::*best_;
     std::string menu_;
     std::vector<std::string> boxes_;
+    TimedRun run_;
 };
 
 } // namespace nb

@@ -62,7 +62,7 @@ TEST(RecordCodec, NewPupilWithOneDrillTime)
     d.toMainMenu();
     d.newPupil("Ann");
     d.platform.queueNo();
-    bestTimeCheck(d.platform, d.progress(), &d.progress().AddBestNormal1, "41.5", 10);
+    bestTimeCheck(d.platform, d.progress(), &d.progress().AddBestNormal1, 41.5, 10);
 
     // Positions (1-based) that NEW sets to a 16-bit 0; all others but the name and the time are
     // slots never touched, written as bare empty tags.

@@ -144,7 +144,7 @@ TEST_F(RecordScreens, SavedRecordLoadsAndIsWrittenBackWhereItCameFrom)
 {
     d->newPupil("Zoë Łukasz");
     d->platform.queueNo();
-    bestTimeCheck(d->platform, d->progress(), &d->progress().AddBestNeg3, "37.5", 10);
+    bestTimeCheck(d->platform, d->progress(), &d->progress().AddBestNeg3, 37.5, 10);
     exitAndSave();
     d->type("txtfilename", "zoe");
     d->click("cmdOK");

@@ -1,7 +1,7 @@
 #pragma once
-// Text in record files. Records written by earlier versions hold names in Windows-1252, one byte
-// a character; names with letters outside that code page are written as UTF-8 instead. In memory
-// every text is UTF-8.
+// Text in record files. Names are stored in Windows-1252, one byte a character, which is what
+// record files of this format hold; names with letters outside that code page are written as
+// UTF-8 instead. In memory every text is UTF-8.
 #include <cstdint>
 #include <optional>
 #include <string>
