@@ -14,8 +14,8 @@ void announceBestTime(Platform &platform, PupilProgress &progress, const Value *
     tell(platform, progress, "Your best time is " + slot->str() + " seconds.");
 }
 
-int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
-                  double seconds, int questions)
+int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot, double seconds,
+                  int questions)
 {
     std::string msg = "You completed " + std::to_string(questions) + " questions in " +
                       numberText(seconds) + " seconds.";

@@ -19,8 +19,8 @@ void announceBestTime(Platform &platform, PupilProgress &progress, const Value *
 // closing message, stores a first or faster time in the slot (an equal time is not a new best),
 // asks "Do you want another go ?" and returns the reply (kYes or kNo), also kept in MessageReply.
 // A null slot stores nothing and praises nothing.
-int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot,
-                  double seconds, int questions);
+int bestTimeCheck(Platform &platform, PupilProgress &progress, Value *slot, double seconds,
+                  int questions);
 
 // Slot selection. A flag counts as set only when it equals 1 and as clear only when it equals 0
 // (a flag never written is 0); a level counts only when it is a whole number in range. Anything

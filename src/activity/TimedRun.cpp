@@ -11,8 +11,7 @@ TimedRun::TimedRun(Screen &screen, Names names, int questions)
     : screen_(screen)
     , names_(std::move(names))
     , questions_(questions)
-{
-}
+{}
 
 void TimedRun::bind()
 {

@@ -143,7 +143,12 @@ void App::click(Screen &s, const std::string &name, int index)
 
 void App::doubleClick(Screen &s, const std::string &name, int index)
 {
-    run(s, [&] { s.onDoubleClick(name, index); });
+    run(s, [&] {
+        const Control *c = s.find(name, index);
+        if (c && !c->doubleClicks)
+            return;
+        s.onDoubleClick(name, index);
+    });
 }
 
 int App::keyPress(Screen &s, const std::string &name, int index, int key)
@@ -159,7 +164,19 @@ int App::keyPress(Screen &s, const std::string &name, int index, int key)
 
 void App::mouseDown(Screen &s, const std::string &name, int index, double x, double y)
 {
-    run(s, [&] { s.onMouseDown(name, index, x, y); });
+    run(s, [&] {
+        MousePress press{name, index, x, y, x, y};
+        if (const Control *c = s.find(name, index)) {
+            press.screenX += c->left;
+            press.screenY += c->top;
+        }
+        s.onMouseDown(press);
+    });
+}
+
+void App::screenKey(Screen &s, int key)
+{
+    run(s, [&] { s.onScreenKey(key); });
 }
 
 void App::timerTick(Screen &s, const std::string &name)

@@ -60,7 +60,10 @@ public:
     void click(Screen &s, const std::string &name, int index = -1);
     void doubleClick(Screen &s, const std::string &name, int index = -1);
     int keyPress(Screen &s, const std::string &name, int index, int key);
+    // x and y in twips from the control's top-left corner.
     void mouseDown(Screen &s, const std::string &name, int index, double x, double y);
+    // A key no text box took (see Screen::onScreenKey).
+    void screenKey(Screen &s, int key);
     void timerTick(Screen &s, const std::string &name);
     void change(Screen &s, const std::string &name, int index = -1);
 

@@ -88,6 +88,12 @@ struct Control
     int interval = 0;     // Timer: milliseconds
     bool timerOn = false; // Timer: running
 
+    // Input. A mouse-transparent control (a label, image or shape over a board) lets a press
+    // through to the control beneath it. A control that takes no double-clicks ignores the second
+    // press of a double-click, so a quick double press on a game cell acts once.
+    bool mouseTransparent = false;
+    bool doubleClicks = true;
+
     // The name automation uses: "name" or "name(index)" for a member of a control array.
     std::string id() const { return index < 0 ? name : name + "(" + std::to_string(index) + ")"; }
 };

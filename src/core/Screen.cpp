@@ -127,6 +127,23 @@ Control &Screen::checkBox(std::string name, std::string caption, int l, int t, i
     return add(make(ControlKind::CheckBox, std::move(name), std::move(caption), l, t, w, h, index));
 }
 
+Control &Screen::optionButton(std::string name, std::string caption, int l, int t, int w, int h,
+                              int index)
+{
+    return add(
+        make(ControlKind::OptionButton, std::move(name), std::move(caption), l, t, w, h, index));
+}
+
+Control &Screen::scrollBar(std::string name, int l, int t, int w, int h, int minimum, int maximum,
+                           int value)
+{
+    Control &c = add(make(ControlKind::ScrollBar, std::move(name), {}, l, t, w, h, -1));
+    c.minimum = minimum;
+    c.maximum = maximum;
+    c.value = value;
+    return c;
+}
+
 Control &Screen::image(std::string name, std::string picture, int l, int t, int w, int h, int index)
 {
     Control &c = add(make(ControlKind::Image, std::move(name), {}, l, t, w, h, index));

@@ -13,6 +13,16 @@ class App;
 class Platform;
 struct PupilProgress;
 
+// A mouse button pressed on a control: where, in twips from the control's top-left corner and
+// from the screen's top-left corner.
+struct MousePress
+{
+    std::string name;
+    int index = -1;
+    double x = 0, y = 0;             // control twips
+    double screenX = 0, screenY = 0; // screen twips
+};
+
 class Screen
 {
 public:
@@ -58,11 +68,12 @@ public:
     {
         (void)name, (void)index, (void)key;
     }
-    // A mouse button pressed on a control; x and y in twips from the control's top-left corner.
-    virtual void onMouseDown(const std::string &name, int index, double x, double y)
-    {
-        (void)name, (void)index, (void)x, (void)y;
-    }
+    // A mouse button pressed on a control (a mouse-transparent control passes it to the one
+    // beneath).
+    virtual void onMouseDown(const MousePress &press) { (void)press; }
+    // A key pressed while no text box has the focus (letters in either case, digits, Enter 13,
+    // Escape 27, Space 32), for screens that take keys for the whole screen.
+    virtual void onScreenKey(int key) { (void)key; }
     virtual void onTimer(const std::string &name) { (void)name; }
     // The user changed a list selection, a scroll bar or the text of a box (after the change).
     virtual void onChange(const std::string &name, int index) { (void)name, (void)index; }
@@ -97,6 +108,12 @@ protected:
                      int index = -1);
     Control &checkBox(std::string name, std::string caption, int l, int t, int w, int h,
                       int index = -1);
+    // An option button of a group (the window keeps one of a group's buttons chosen).
+    Control &optionButton(std::string name, std::string caption, int l, int t, int w, int h,
+                          int index = -1);
+    // A horizontal scroll bar from `minimum` to `maximum` at `value`.
+    Control &scrollBar(std::string name, int l, int t, int w, int h, int minimum, int maximum,
+                       int value);
     Control &image(std::string name, std::string picture, int l, int t, int w, int h,
                    int index = -1);
     Control &shape(std::string name, ShapeKind kind, std::uint32_t fill, std::uint32_t border,

@@ -1,8 +1,8 @@
 #include "drills/DrillFrame.h"
 
+#include "activity/BestTimeCheck.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
-#include "activity/BestTimeCheck.h"
 
 #include <cmath>
 

@@ -1,11 +1,11 @@
 #include "written/WrittenFrame.h"
 
-#include "core/NumberText.h"
-#include "core/Platform.h"
+#include "activity/AnswerBoxFilter.h"
 #include "activity/Ask.h"
 #include "activity/BestTimeCheck.h"
-#include "activity/AnswerBoxFilter.h"
 #include "activity/PraiseList.h"
+#include "core/NumberText.h"
+#include "core/Platform.h"
 
 #include <algorithm>
 

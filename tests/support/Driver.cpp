@@ -1,5 +1,6 @@
 #include "support/Driver.h"
 
+#include "core/Input.h"
 #include "shell/AllScreens.h"
 
 #include <gtest/gtest.h>
@@ -7,19 +8,6 @@
 #include <stdexcept>
 
 namespace nb::test {
-
-std::string utf8(int code)
-{
-    const auto c = static_cast<unsigned>(code);
-    if (c < 0x80)
-        return std::string(1, char(c));
-    // A lead byte with one high bit per byte of the sequence, then six bits per byte.
-    const int more = c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    std::string s(1, char((0xFF << (7 - more)) | (c >> (6 * more))));
-    for (int k = more - 1; k >= 0; --k)
-        s += char(0x80 | ((c >> (6 * k)) & 0x3F));
-    return s;
-}
 
 Driver::Driver()
     : app(platform, registry)
@@ -87,10 +75,7 @@ Control &Driver::usable(const std::string &name, int index)
 void Driver::click(const std::string &name, int index)
 {
     Control &c = usable(name, index);
-    if (c.kind == ControlKind::CheckBox)
-        c.value = c.value ? 0 : 1;
-    else if (c.kind == ControlKind::OptionButton)
-        c.value = 1;
+    applyClick(front().controls(), c);
     app.click(front(), name, index);
 }
 
@@ -108,23 +93,47 @@ void Driver::key(const std::string &name, int code, int index)
     if (k == 0 || !app.isLive(s))
         return;
     Control *c = s.find(name, index);
-    if (!c || c->kind != ControlKind::TextBox)
-        return;
-    if (k == 8) {
-        // Backspace removes the last character (a whole UTF-8 sequence).
-        std::string &t = c->caption;
-        while (!t.empty() && (static_cast<unsigned char>(t.back()) & 0xC0) == 0x80)
-            t.pop_back();
-        if (!t.empty())
-            t.pop_back();
-    } else if (k >= 32 && k != 127) {
-        if (c->maxLength > 0 && int(c->caption.size()) >= c->maxLength)
-            return;
-        c->caption += utf8(k);
-    } else {
-        return;
+    if (c && applyKey(*c, k))
+        app.change(s, name, index);
+}
+
+void Driver::screenKey(int code)
+{
+    app.screenKey(front(), code);
+}
+
+void Driver::screenKeys(const std::string &text)
+{
+    for (unsigned char ch : text)
+        screenKey(ch);
+}
+
+void Driver::mouseDown(const std::string &name, double x, double y, int index)
+{
+    usable(name, index);
+    app.mouseDown(front(), name, index, x, y);
+}
+
+bool Driver::pressAt(double screenX, double screenY)
+{
+    // As the window finds it: the last-made control under the point that is shown, enabled and
+    // not transparent to the mouse (timers and lines take no presses).
+    Screen &s = front();
+    auto &cs = s.controls();
+    for (auto it = cs.rbegin(); it != cs.rend(); ++it) {
+        const Control &c = *it;
+        if (!c.visible || c.mouseTransparent || c.kind == ControlKind::Timer ||
+            c.kind == ControlKind::Line)
+            continue;
+        if (screenX < c.left || screenY < c.top || screenX >= c.left + c.width ||
+            screenY >= c.top + c.height)
+            continue;
+        if (!c.enabled)
+            return false;
+        app.mouseDown(s, c.name, c.index, screenX - c.left, screenY - c.top);
+        return true;
     }
-    app.change(s, name, index);
+    return false;
 }
 
 void Driver::type(const std::string &name, const std::string &text, int index)

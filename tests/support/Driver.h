@@ -4,6 +4,7 @@
 // platform. Actions on a control that a pupil could not reach (missing, hidden or disabled)
 // fail the test.
 #include "core/App.h"
+#include "core/Input.h"
 #include "core/Screen.h"
 #include "support/FakePlatform.h"
 
@@ -44,6 +45,14 @@ public:
         enter(name, index);
     }
     void key(const std::string &name, int code, int index = -1);
+    // A key pressed with no text box focused (the screen-level key channel), and a run of them.
+    void screenKey(int code);
+    void screenKeys(const std::string &text);
+    // A mouse press at control twips on a named control.
+    void mouseDown(const std::string &name, double x, double y, int index = -1);
+    // A mouse press at screen twips on whatever the window would find there: the topmost shown
+    // control that is not transparent to the mouse. False when nothing takes the press.
+    bool pressAt(double screenX, double screenY);
     void tick(const std::string &timerName, int times = 1);
     // Replace a box's text as a paste would (no key events), then report the change.
     void setText(const std::string &name, const std::string &text, int index = -1);
@@ -72,7 +81,6 @@ private:
     Control &usable(const std::string &name, int index);
 };
 
-// UTF-8 text of one character code.
-std::string utf8(int code);
+using nb::utf8;
 
 } // namespace nb::test

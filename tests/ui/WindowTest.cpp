@@ -84,9 +84,9 @@ public:
     {
         changes.push_back(ctl(name, index).id());
     }
-    void onMouseDown(const std::string &name, int, double x, double y) override
+    void onMouseDown(const MousePress &press) override
     {
-        downs.push_back({name, x, y});
+        downs.push_back({press.name, press.x, press.y});
     }
     void onTimer(const std::string &) override { ++ticks; }
 
