@@ -1,6 +1,7 @@
 #include "ui/ScreenView.h"
 
 #include "core/App.h"
+#include "core/Input.h"
 #include "core/Screen.h"
 #include "ui/ControlWidgets.h"
 #include "ui/Look.h"
@@ -191,8 +192,8 @@ void ScreenView::make(Bound &b, const Control &c, int slot)
     }
     case ControlKind::TextBox: {
         auto *t = new AnswerBox(*this, slot, this);
-        connect(t, &QLineEdit::textEdited, this,
-                [this, slot](const QString &text) { textEdited(slot, text); });
+        connect(t, &QLineEdit::textChanged, this,
+                [this, slot](const QString &text) { textChanged(slot, text); });
         w = t;
         break;
     }
@@ -334,6 +335,9 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
         w->setVisible(c.visible);
     if (changed(l.enabled, c.enabled) || fresh)
         w->setEnabled(c.enabled);
+    if ((changed(l.mouseTransparent, c.mouseTransparent) || fresh) &&
+        c.kind != ControlKind::Shape && c.kind != ControlKind::Line)
+        w->setAttribute(Qt::WA_TransparentForMouseEvents, c.mouseTransparent);
 
     switch (c.kind) {
     case ControlKind::Label: {
@@ -360,7 +364,9 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
             // Keep the cursor where the pupil left it unless it was at the end.
             const int pos = box->cursorPosition();
             const bool atEnd = pos == box->text().size();
+            syncing_ = true;
             box->setText(t);
+            syncing_ = false;
             if (!atEnd)
                 box->setCursorPosition(std::min(pos, int(t.size())));
         }
@@ -582,10 +588,7 @@ void ScreenView::click(int slot)
     Control *c = liveControl(slot);
     if (!c || !c->visible || !c->enabled)
         return;
-    if (c->kind == ControlKind::CheckBox)
-        c->value = c->value ? 0 : 1;
-    else if (c->kind == ControlKind::OptionButton)
-        c->value = 1;
+    applyClick(screen_->controls(), *c);
     const std::string name = c->name;
     app_.click(*screen_, name, c->index);
     window_.afterEvent(true);
@@ -659,10 +662,59 @@ template<class T> void ScreenView::reportChange(int slot, T Control::*field, T v
     window_.afterEvent(false);
 }
 
-void ScreenView::textEdited(int slot, const QString &text)
+void ScreenView::textChanged(int slot, const QString &text)
 {
-    if (!applyingKey_)
+    if (!applyingKey_ && !syncing_)
         reportChange(slot, &Control::caption, text.toStdString());
+}
+
+const Control *ScreenView::controlOf(const QWidget *widget) const
+{
+    if (!screen_ || !widget)
+        return nullptr;
+    for (const Bound &b : bound_)
+        if (b.widget == widget)
+            return screen_->find(b.name, b.index);
+    return nullptr;
+}
+
+bool ScreenView::screenKey(QKeyEvent *e)
+{
+    // A key held down counts once.
+    if (!screen_ || e->isAutoRepeat() || !app_.isLive(*screen_))
+        return false;
+    int code = 0;
+    switch (e->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        code = 13;
+        break;
+    case Qt::Key_Escape:
+        code = 27;
+        break;
+    case Qt::Key_Backspace:
+        code = 8;
+        break;
+    default:
+        if (e->modifiers() & (Qt::ControlModifier | Qt::MetaModifier | Qt::AltModifier))
+            return false;
+        if (const QList<uint> chars = e->text().toUcs4();
+            chars.size() == 1 && chars[0] >= 32 && chars[0] != 127)
+            code = int(chars[0]);
+    }
+    if (code == 0)
+        return false;
+    app_.screenKey(*screen_, code);
+    window_.afterEvent(false);
+    return true;
+}
+
+void ScreenView::keyPressEvent(QKeyEvent *e)
+{
+    // Keys reach the view when the widget with the focus did not take them (a button ignores
+    // letters) or when nothing on the screen has the focus.
+    if (!screenKey(e))
+        QWidget::keyPressEvent(e);
 }
 
 void ScreenView::selectionChanged(int slot, int row)
