@@ -1,3 +1,5 @@
+#include "drills/DrillScreens.h"
+
 #include "drills/add11.h"
 #include "drills/div11.h"
 #include "drills/makeany.h"
@@ -9,7 +11,6 @@
 #include "drills/mentmul.h"
 #include "drills/mul11.h"
 #include "drills/sub11.h"
-#include "shell/AllScreens.h"
 
 namespace nb {
 
