@@ -5,6 +5,8 @@
 // or hard links, and another program taking the name just before this one places its record.
 #include "shell/record/FileCalls.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <atomic>
 #include <cerrno>
@@ -18,6 +20,18 @@
 #include <vector>
 
 namespace nb::test {
+
+// An empty folder of the running test's own, in the system's temporary folder.
+inline std::filesystem::path emptyTestFolder()
+{
+    const ::testing::TestInfo *test = ::testing::UnitTest::GetInstance()->current_test_info();
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("numbrook-" + std::to_string(::getpid()) + "-" +
+                                                  test->test_suite_name() + "-" + test->name());
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder);
+    return folder;
+}
 
 inline std::string slurp(const std::filesystem::path &p)
 {

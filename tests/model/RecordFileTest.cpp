@@ -39,14 +39,7 @@ mode_t modeOf(const fs::path &p)
 class RecordFile : public ::testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        dir = fs::temp_directory_path() /
-              ("numbrook-file-" + std::to_string(::getpid()) + "-" +
-               ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(dir);
-        fs::create_directories(dir);
-    }
+    void SetUp() override { dir = emptyTestFolder(); }
     void TearDown() override { fs::remove_all(dir); }
 
     record::WriteOutcome write(const std::string &bytes, WriteMode mode,

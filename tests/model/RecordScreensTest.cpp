@@ -22,10 +22,7 @@ class RecordScreens : public ::testing::Test
 protected:
     void SetUp() override
     {
-        root = fs::temp_directory_path() /
-               ("numbrook-record-" + std::to_string(::getpid()) + "-" +
-                ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(root);
+        root = emptyTestFolder();
         fs::create_directories(root / "docs");
         d = fresh();
     }
