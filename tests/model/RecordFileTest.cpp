@@ -100,8 +100,8 @@ TEST_F(RecordFile, EveryFailingStepKeepsTheOldRecordAndLeavesNothingBehind)
     }
 }
 
-// Writes that take a few bytes at a time, and file systems that cannot rename without replacing
-// or make hard links: the record arrives whole, and a name another program takes at the same
+// Writes that take a few bytes at a time, and file systems that cannot rename without replacing,
+// make hard links or flush: the record arrives whole, and a name another program takes at the same
 // moment is never written over.
 TEST_F(RecordFile, NewRecordsArriveWholeOrNotAtAllWhateverTheFileSystem)
 {
@@ -110,17 +110,27 @@ TEST_F(RecordFile, NewRecordsArriveWholeOrNotAtAllWhateverTheFileSystem)
         std::size_t writeLimit;
         bool noRenameNoReplace;
         bool noLink;
-    } cases[] = {{0, false, false}, {7, false, false}, {0, true, false}, {7, true, true}};
+        bool noFsync = false;
+    } cases[] = {{0, false, false},
+                 {7, false, false},
+                 {0, true, false},
+                 {7, true, true},
+                 {0, false, false, true}};
     for (const auto &c : cases)
         for (const bool clash : {false, true}) {
             SCOPED_TRACE(std::to_string(c.writeLimit) + (c.noRenameNoReplace ? " no-rename" : "") +
-                         (c.noLink ? " no-link" : "") + (clash ? " clash" : ""));
+                         (c.noLink ? " no-link" : "") + (c.noFsync ? " no-fsync" : "") +
+                         (clash ? " clash" : ""));
             fs::remove_all(dir);
             fs::create_directories(dir);
             FaultyFileCalls calls;
             calls.writeLimit = c.writeLimit;
             calls.noRenameNoReplace = c.noRenameNoReplace;
             calls.noLink = c.noLink;
+            if (c.noFsync) {
+                calls.failStep = Step::Fsync;
+                calls.failErr = EINVAL;
+            }
             if (clash)
                 calls.clashWith = theirs;
             const record::UseFileCalls use(calls);
