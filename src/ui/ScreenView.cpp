@@ -37,6 +37,22 @@ bool isGraphical(ControlKind k)
            k == ControlKind::Line || k == ControlKind::Canvas;
 }
 
+// A caption too wide for its label: the font made smaller until the whole caption fits on one
+// line, or the middle of the caption left out, with the whole of it as the label's tip.
+void fitCaption(QLabel &label, const QString &caption, TextFit fit, QFont font)
+{
+    const int room = std::max(1, label.contentsRect().width() - 2);
+    if (fit == TextFit::Shrink) {
+        while (font.pixelSize() > 5 && QFontMetrics(font).horizontalAdvance(caption) > room)
+            font.setPixelSize(font.pixelSize() - 1);
+        label.setFont(font);
+    } else {
+        label.setWordWrap(false);
+        label.setText(QFontMetrics(font).elidedText(caption, Qt::ElideMiddle, room));
+        label.setToolTip(caption);
+    }
+}
+
 Qt::Alignment alignmentOf(Align a)
 {
     switch (a) {
@@ -351,6 +367,8 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
             lab->setAlignment(alignmentOf(c.align) | Qt::AlignTop);
             lab->setFrameShape(c.border ? QFrame::Box : QFrame::NoFrame);
         }
+        if (c.fit != TextFit::Wrap && (text || font || geometry || look))
+            fitCaption(*lab, qs(c.caption), c.fit, makeFont(c.font, scale_));
         break;
     }
     case ControlKind::TextBox: {
@@ -373,6 +391,8 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
             box->setAlignment(alignmentOf(c.align) | Qt::AlignVCenter);
         if (changed(l.maxLength, c.maxLength) || fresh)
             box->setMaxLength(c.maxLength > 0 ? c.maxLength : 32767);
+        if (changed(l.readOnly, c.readOnly) || fresh)
+            box->setReadOnly(c.readOnly);
         break;
     }
     case ControlKind::Button:
