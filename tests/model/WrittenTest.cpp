@@ -1,10 +1,10 @@
 // The written-method screens as a pupil meets them: the answer-box key filter, the shared frame
 // (stopwatch, penalties, praise, the closing question) and each screen's step machine, with the
 // digits of every question scripted.
-#include "core/PupilProgress.h"
-#include "support/Driver.h"
 #include "activity/AnswerBoxFilter.h"
 #include "activity/PraiseList.h"
+#include "core/PupilProgress.h"
+#include "support/Driver.h"
 
 #include <gtest/gtest.h>
 
@@ -388,6 +388,47 @@ TEST_F(Written, SubtractionExchangesTwiceIntoARewrittenTens)
     EXPECT_EQ(shown("Text16") + shown("text19") + shown("Text15") + shown("Text14"), "211-");
     answer("12=9 13=1");
     EXPECT_TRUE(complete());
+}
+
+TEST_F(Written, SubtractionWaitingForAnExchangeRestsOnTheDigitToClick)
+{
+    // The focus never rests where Enter would act (Exit): while a column waits, it is on the top
+    // digit to click, which the hint names and which is marked; the prompt line stays as it is.
+    struct Case
+    {
+        int top, bottom;
+        const char *before; // right entries made first
+        const char *digit;  // the label to click
+        const char *named;  // in the hint
+        const char *prompt;
+    };
+    const Case cases[] = {
+        {350, 272, "", "Label2", "Click the 5 at the top of the tens", "Enter the units."},
+        {402, 157, "", "Label1", "Click the 4 at the top of the hundreds", "Enter the units."},
+        {689, 497, "11=2", "Label1", "Click the 6 at the top of the hundreds", "Enter the tens."},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(std::to_string(c.top) + " - " + std::to_string(c.bottom));
+        Pupil p;
+        p.start("sub33", sub33Draws(c.top, c.bottom));
+        p.answer(c.before);
+        EXPECT_EQ(p.d.front().focusName(), c.digit);
+        EXPECT_EQ(p.d.caption("text17"), c.prompt);
+        EXPECT_TRUE(p.d.visible("hint"));
+        EXPECT_NE(p.d.caption("hint").find(c.named), std::string::npos) << p.d.caption("hint");
+        EXPECT_TRUE(p.d.control(c.digit).border);
+        EXPECT_FALSE(p.d.control(std::string(c.digit) == "Label1" ? "Label2" : "Label1").border);
+    }
+
+    // Through the empty tens: the hundreds first, then the rewritten ten tens, then the box.
+    start("sub33", sub33Draws(402, 157));
+    d.click("Label1");
+    EXPECT_EQ(d.front().focusName(), "Label2");
+    EXPECT_NE(d.caption("hint").find("Click the 10 at the top of the tens"), std::string::npos);
+    d.click("Label2");
+    EXPECT_EQ(d.front().focusName(), "Text11");
+    EXPECT_FALSE(d.visible("hint"));
+    EXPECT_FALSE(d.control("Label1").border || d.control("Label2").border);
 }
 
 // ---------------------------------------------------------------- short multiplication
