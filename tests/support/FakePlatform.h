@@ -17,6 +17,7 @@ struct Shown
     std::string text;
     std::string title;
     MsgIcon icon = MsgIcon::None;
+    std::string details;
 };
 
 class FakePlatform : public Platform
@@ -51,7 +52,8 @@ public:
 
     // Platform
     void beep() override { ++beeps; }
-    void message(const std::string &text, const std::string &title, MsgIcon icon) override;
+    void message(const std::string &text, const std::string &title, MsgIcon icon,
+                 const std::string &details) override;
     int askYesNo(const std::string &text, const std::string &title) override;
     std::string inputBox(const std::string &prompt, const std::string &title,
                          const std::string &defaultText) override;
