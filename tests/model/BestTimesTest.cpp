@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <set>
 #include <unistd.h>
 
@@ -73,6 +74,9 @@ TEST_F(BestTimes, EachSavedValueShowsInItsOwnLabelAndNoneShowsWhenZero)
     field(d.progress(), 2) = Value::int16(0); // as NEW leaves them
     d.open("besttimes");
     EXPECT_EQ(d.caption("namebox"), "Ann Smith");
+    d.type("namebox", "x");
+    d.key("namebox", 8);
+    EXPECT_EQ(d.caption("namebox"), "Ann Smith") << "the name cannot be typed over";
     for (const Shows &s : kMap)
         for (std::size_t i = 0; i < s.positions.size(); ++i)
             EXPECT_EQ(d.caption(s.label, member(s, i)), "") << s.label;
@@ -143,10 +147,33 @@ TEST_F(BestTimes, PrintSaysWhereThePageWentAndExitReturnsToTheMenu)
     EXPECT_EQ(d.frontName(), "mulmenu");
     EXPECT_FALSE(d.isOpen("besttimes"));
 
-    d.progress().PupilName = Value::text("a/b:c");
+    // The pupil's name goes into the file name tidied and, when long, cut between characters.
+    const struct
+    {
+        std::string name;
+        std::string file;
+    } names[] = {
+        {"a/b:c", "Best times a_b_c.pdf"},
+        {std::string(300, 'x'), "Best times " + std::string(40, 'x') + ".pdf"},
+        {std::string(39, 'x') + "\u00e9\u00e9", "Best times " + std::string(39, 'x') + ".pdf"},
+        {std::string(38, 'x') + " .yz", "Best times " + std::string(38, 'x') + ".pdf"},
+    };
+    for (const auto &n : names) {
+        d.progress().PupilName = Value::text(n.name);
+        d.open("besttimes");
+        d.click("Command2");
+        EXPECT_EQ(fs::path(d.platform.printed.back()).filename().string(), n.file);
+        d.click("Command1");
+    }
+
+    // With no printer, a real PDF is written under a name of any length.
+    d.progress().PupilName = Value::text(std::string(600, 'n'));
     d.open("besttimes");
     d.click("Command2");
-    EXPECT_EQ(fs::path(d.platform.printed.back()).filename(), "Best times a_b_c.pdf");
+    const fs::path written = d.platform.printed.back();
+    EXPECT_LE(written.filename().string().size(), 60u);
+    std::ofstream(written) << "pdf";
+    EXPECT_TRUE(fs::exists(written));
 }
 
 } // namespace
