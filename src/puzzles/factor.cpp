@@ -361,6 +361,7 @@ void Factor::checkEntry()
         return;
     }
 
+    platform().beep();
     box.backColor = kBoxWaiting;
     box.enabled = false;
     ++currentBox_;

@@ -107,6 +107,7 @@ TEST_F(FactorRace, RightFactorsMoveThePupilWithGrowingStepsThenANewNumber)
     startOn(6);
     d.typeEnter("factorbox", "1", 1);
     d.typeEnter("factorbox", "2", 2);
+    EXPECT_EQ(d.platform.beeps, 2) << "each right factor beeps";
     EXPECT_EQ(std::vector<std::uint32_t>({d.backColor("factorbox", 2), d.backColor("factorbox", 3),
                                           d.backColor("factorbox", 4)}),
               std::vector<std::uint32_t>({colors::red, colors::yellow, colors::red}));
@@ -148,7 +149,9 @@ TEST_F(FactorRace, WrongEntriesMoveTheComputerAndThreeSendOnlyThePupilBack)
     d.setText("factorbox", "", 1);
     d.typeEnter("factorbox", "1", 1);
     d.typeEnter("factorbox", "2", 2);
+    const int beeps = d.platform.beeps;
     d.typeEnter("factorbox", "2", 3); // a repeat divides 24 but is wrong
+    EXPECT_EQ(d.platform.beeps, beeps) << "a wrong factor is silent";
     EXPECT_EQ(d.text("factorbox", 3), "");
     EXPECT_EQ(top("compcar"), 948);
     EXPECT_EQ(d.control("compcar").left, 2954);
