@@ -14,6 +14,11 @@ constexpr int kWidth = 12000;
 constexpr int kHeight = 9000;
 
 constexpr std::uint32_t kInk = rgb(30, 40, 120);
+// The operator and "=" stand apart from the numbers: larger, in a colour of their own and with
+// room on both sides, so that in "-174.7 − -90.1" the operator and the sign of -90.1 differ.
+constexpr std::uint32_t kSignInk = rgb(215, 80, 20);
+constexpr double kNumberPoints = 40;
+constexpr double kSignPoints = 52;
 constexpr std::uint32_t kPanel = rgb(255, 245, 170);
 
 // The five cells of the sum, left to right: first number, sign, second number, "=", answer.
@@ -25,8 +30,8 @@ struct Cell
     bool isSign;
 };
 constexpr Cell kCells[] = {
-    {"text1", 500, 3000, false}, {"text2", 3500, 900, true},   {"text3", 4400, 3000, false},
-    {"text4", 7400, 900, true},  {"Text5", 8300, 3200, false},
+    {"text1", 400, 2900, false}, {"text2", 3300, 1300, true},  {"text3", 4600, 2900, false},
+    {"text4", 7500, 800, true},  {"Text5", 8300, 3200, false},
 };
 constexpr int kSumTop = 2050;
 constexpr int kSumHeight = 1500;
@@ -70,8 +75,9 @@ DrillFrame::DrillFrame(App &app, Look look)
                          ? textBox(cell.name, "Answer", cell.left, kSumTop, cell.width, kSumHeight)
                          : label(cell.name, caption, cell.left, kSumTop + kLabelDrop, cell.width,
                                  kSumHeight - kLabelDrop);
-        bigFont(c, 40);
-        c.foreColor = kInk;
+        const bool sign = cell.isSign && cell.name != look_.answerBox;
+        bigFont(c, sign ? kSignPoints : kNumberPoints);
+        c.foreColor = sign ? kSignInk : kInk;
     }
     Control &box = ctl(look_.answerBox);
     box.backColor = rgb(255, 255, 220);
