@@ -81,7 +81,9 @@ DrillFrame::DrillFrame(App &app, Look look)
     }
     Control &box = ctl(look_.answerBox);
     box.backColor = rgb(255, 255, 220);
-    box.maxLength = 10;
+    // Room for more digits than a number keeps (15), so that an over-long entry stays untidy and
+    // is cleared rather than cut down to a number that would be judged.
+    box.maxLength = 20;
     box.enabled = false; // until Start
 
     const auto panel = [this](const char *caption, const char *name, const char *value, int left) {
