@@ -288,6 +288,27 @@ TEST_F(Written, AdditionWalksThroughBothCarriesAndTheThousands)
     EXPECT_TRUE(complete());
 }
 
+TEST(WrittenAddition, AColumnSummingToExactlyTenCarriesOne)
+{
+    const struct
+    {
+        int a, b, c;
+        const char *script;
+    } cases[] = {
+        {102, 305, 103, "11=0 15=1 12=1 13=5"}, // units 2 + 5 + 3
+        {130, 150, 120, "11=0 12=0 16=1 13=4"}, // tens 3 + 5 + 2
+        {104, 203, 102, "11=9 12=0 13=4"},      // units 9: no carry
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.script);
+        Pupil run;
+        run.start("ADD333", add333Draws(c.a, c.b, c.c));
+        run.answer(c.script);
+        EXPECT_TRUE(run.complete());
+        EXPECT_EQ(run.d.caption("time"), "0");
+    }
+}
+
 TEST_F(Written, AdditionKeepsTheStepOnAWrongEntry)
 {
     // Units 8 + 0 + 7 = 15: 5, carry 1; tens 0 + 0 + 0 + 1 = 1 with no carry.
@@ -449,6 +470,10 @@ TEST(WrittenTimes, StepMachines)
         {"times", timesDraws(999, 9), "11=1 15=8 12=9 16=8 13=9 14=8", ""},
         {"times", timesDraws(987, 1), "11=7 12=8 13=9", "14 15 16"},
         {"times", timesDraws(150, 7), "11=0 12=5 16=3 13=0 14=1", "15"},
+        // A column product of exactly 10 carries 1.
+        {"times2", times2Draws(32, 5), "11=0 15=1 12=6 13=1", ""},
+        {"times", timesDraws(125, 2), "11=0 15=1 12=5 13=2", "14 16"},
+        {"times", timesDraws(152, 2), "11=4 12=0 16=1 13=3", "14 15"},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(std::string(c.screen) + " " + c.script);
