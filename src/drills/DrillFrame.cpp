@@ -105,6 +105,7 @@ DrillFrame::DrillFrame(App &app, Look look)
     Control &exitButton = button("Command12", "Exit", 8300, 5800, 3200, 1000);
     bigFont(exitButton, 24);
     exitButton.backColor = rgb(250, 160, 160);
+    setFocus("Command11"); // an Enter before the run starts it, never leaves
 
     Control &hint = label("lblHint", "Press Start, then type each answer and press Enter.", 500,
                           7200, kWidth - 1000, 700);
