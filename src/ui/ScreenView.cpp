@@ -41,11 +41,13 @@ bool isGraphical(ControlKind k)
 // line, or the middle of the caption left out, with the whole of it as the label's tip.
 void fitCaption(QLabel &label, const QString &caption, TextFit fit, QFont font)
 {
-    const int room = std::max(1, label.contentsRect().width() - 2);
+    const int room = std::max(1, label.contentsRect().width() - 6);
     if (fit == TextFit::Shrink) {
         while (font.pixelSize() > 5 && QFontMetrics(font).horizontalAdvance(caption) > room)
             font.setPixelSize(font.pixelSize() - 1);
         label.setFont(font);
+        // A smaller caption stays in the middle of its label rather than at the top.
+        label.setAlignment((label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter);
     } else {
         label.setWordWrap(false);
         label.setText(QFontMetrics(font).elidedText(caption, Qt::ElideMiddle, room));
@@ -379,8 +381,8 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
             const int pos = box->cursorPosition();
             const bool atEnd = pos == box->text().size();
             box->setText(t);
-            if (!atEnd)
-                box->setCursorPosition(std::min(pos, int(t.size())));
+            if (!atEnd || c.readOnly) // a text only to be read shows from its start
+                box->setCursorPosition(atEnd ? 0 : std::min(pos, int(t.size())));
         }
         if (spoken)
             box->setAccessibleName(qs(c.spokenName.empty() ? c.name : c.spokenName));
