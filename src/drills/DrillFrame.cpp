@@ -18,7 +18,7 @@ constexpr std::uint32_t kInk = rgb(30, 40, 120);
 // room on both sides, so that in "-174.7 − -90.1" the operator and the sign of -90.1 differ.
 constexpr std::uint32_t kSignInk = rgb(215, 80, 20);
 constexpr double kNumberPoints = 40;
-constexpr double kSignPoints = 52;
+constexpr double kSignPoints = 60;
 constexpr std::uint32_t kPanel = rgb(255, 245, 170);
 
 // The five cells of the sum, left to right: first number, sign, second number, "=", answer.
@@ -38,6 +38,9 @@ constexpr int kSumHeight = 1500;
 // Labels show their text near the top while a box centres it: lowering the labels lines the
 // numbers up with the answer.
 constexpr int kLabelDrop = 280;
+// A label's text hangs from its top, so a larger sign is lifted to stand level with the numbers
+// (a glyph's middle lies about 0.58 of the font size below the top).
+constexpr int kSignLift = int((kSignPoints - kNumberPoints) * 20 * 0.58);
 
 void bigFont(Control &c, double points)
 {
@@ -71,11 +74,12 @@ DrillFrame::DrillFrame(App &app, Look look)
         const std::string caption = !cell.isSign                        ? ""
                                     : std::string(cell.name) == "text2" ? look_.sign
                                                                         : "=";
+        const bool sign = cell.isSign && cell.name != look_.answerBox;
+        const int lift = sign ? kSignLift : 0;
         Control &c = cell.name == look_.answerBox
                          ? textBox(cell.name, "Answer", cell.left, kSumTop, cell.width, kSumHeight)
-                         : label(cell.name, caption, cell.left, kSumTop + kLabelDrop, cell.width,
-                                 kSumHeight - kLabelDrop);
-        const bool sign = cell.isSign && cell.name != look_.answerBox;
+                         : label(cell.name, caption, cell.left, kSumTop + kLabelDrop - lift,
+                                 cell.width, kSumHeight - kLabelDrop + lift);
         bigFont(c, sign ? kSignPoints : kNumberPoints);
         c.foreColor = sign ? kSignInk : kInk;
     }

@@ -66,7 +66,7 @@ Sub33::Sub33(App &app)
     answerBox("Text11", "units", kUnitsColumn, kAnswerRow);
 
     // Says what to do while a column waits for its exchange; hidden otherwise.
-    Control &hint = label("hint", "", 8000, 5500, 3400, 2000);
+    Control &hint = label("hint", "", 8000, 5550, 3400, 1800);
     hint.font.points = 16;
     hint.font.bold = true;
     hint.foreColor = kExchangeInk;

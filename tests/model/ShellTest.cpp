@@ -74,6 +74,7 @@ TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
     EXPECT_FALSE(d.enabled("Command3"));
     EXPECT_TRUE(d.visible("pupilname"));
     EXPECT_EQ(d.caption("pupilname"), name) << "the menu shows who is working";
+    EXPECT_EQ(d.front().focusName(), "Command5") << "not EXIT";
 }
 
 TEST_F(Shell, ExitWithAPupilAsksToSaveAndNoEnds)
