@@ -66,8 +66,9 @@ TEST_F(FactorRace, StoredLevelIsOfferedAndSetsTheComputersPace)
         int stored, reply; // reply 0: no question expected
         std::string level;
         int interval;
-    } cases[] = {{0, 0, "1", 1500},    {1, kYes, "2", 1440}, {4, kNo, "1", 1500},
-                 {24, kYes, "25", 60}, {25, kYes, "26", 60}, {39, kYes, "40", 60}};
+    } cases[] = {{0, 0, "1", 1500},       {1, kYes, "2", 1440}, {4, kNo, "1", 1500},
+                 {4, kCancel, "1", 1500}, {24, kYes, "25", 60}, {25, kYes, "26", 60},
+                 {39, kYes, "40", 60}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.stored);
         Driver drv;

@@ -243,10 +243,11 @@ TEST_P(WrittenFrame, FifthQuestionChecksTheBestAndAsksForAnotherGo)
     EXPECT_FALSE(d.isOpen(c.screen));
 
     const bool addition = c.screen == std::string("ADD333");
-    playExercise(15, kNo);
+    playExercise(15, kCancel); // the box escaped: as No
     EXPECT_EQ(d.platform.lastMessage(), "You completed 5 questions in 15 seconds." +
                                             (addition ? beaten : "") + "Do you want another go ?");
     EXPECT_EQ(best.number(), addition ? 15 : 10);
+    EXPECT_EQ(d.frontName(), c.menu);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, WrittenFrame, ::testing::ValuesIn(kScreens),

@@ -321,6 +321,13 @@ TEST_F(WindowTest, BoxesSeeTheScreenUpToDateAndTimersStandStill)
     const int afterBox = p.ticks;
     QTest::qWait(300);
     EXPECT_GT(p.ticks, afterBox) << "timers run again once the box is answered";
+
+    // A question closed without an answer says so; anything else unknown counts as No.
+    for (const auto &[given, got] : {std::pair{kCancel, "2"}, {kYes, "6"}, {0, "7"}}) {
+        platform.setAnswerer([given](const BoxRequest &) { return BoxAnswer{given, {}}; });
+        click("ask");
+        EXPECT_EQ(text("score"), got);
+    }
 }
 
 TEST_F(WindowTest, ScreensMayCloseInsideTheirOwnEventsAndTheOneBelowIsKept)
