@@ -105,12 +105,6 @@ TEST(ProgramBox, EachWayOfClosingGivesItsAnswer)
         {"name and Enter", BoxRequest::Kind::Input, typeThen("Ann Smith", Qt::Key_Return), kYes,
          "Ann Smith"},
         {"name and Escape", BoxRequest::Kind::Input, typeThen("Ann", Qt::Key_Escape), kCancel, ""},
-        {"name and Cancel", BoxRequest::Kind::Input,
-         [](ProgramBox &b) {
-             QTest::keyClicks(b.inputLine(), "Ann");
-             QTest::mouseClick(b.button(kCancel), Qt::LeftButton);
-         },
-         kCancel, ""},
         {"OK by Escape", BoxRequest::Kind::Message, key(Qt::Key_Escape), kYes, ""},
     };
     for (const auto &c : cases) {
