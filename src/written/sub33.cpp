@@ -66,7 +66,7 @@ Sub33::Sub33(App &app)
     answerBox("Text11", "units", kUnitsColumn, kAnswerRow);
 
     // Says what to do while a column waits for its exchange; hidden otherwise.
-    Control &hint = label("hint", "", 8000, 5550, 3400, 1800);
+    Control &hint = label("hint", "", 8000, 5450, 3400, 2000);
     hint.font.points = 16;
     hint.font.bold = true;
     hint.foreColor = kExchangeInk;
@@ -149,13 +149,17 @@ void Sub33::pointAt(const char *digit)
     const bool units = step_ == 1;
     const int have = units ? unitsNow() : tensNow();
     const int need = units ? bottomUnits_ : bottomTens_;
-    std::string text = numberText(have) + " is smaller than " + numberText(need) + ".";
+    const std::string smaller = numberText(have) + " is smaller than " + numberText(need);
+    std::string text;
     if (digit == std::string_view("Label2"))
-        text +=
-            " Click the " + numberText(tensNow()) + " at the top of the tens to exchange a ten.";
+        text = smaller + ". Click the " + numberText(tensNow()) +
+               " at the top of the tens to exchange a ten.";
+    else if (units) // no tens to give: the hundreds first
+        text = smaller + " and there are no tens. Click the " + numberText(topHundreds_) +
+               " at the top of the hundreds.";
     else
-        text += std::string(units ? " There are no tens." : "") + " Click the " +
-                numberText(topHundreds_) + " at the top of the hundreds to exchange a hundred.";
+        text = smaller + ". Click the " + numberText(topHundreds_) +
+               " at the top of the hundreds to exchange a hundred.";
     hint.caption = text;
 }
 
