@@ -103,6 +103,7 @@ ProgramBox::ProgramBox(const BoxRequest &request, double scale, QWidget *over)
         input_->setAccessibleName(qs(request.text));
         input_->setMinimumHeight(em * 2);
         input_->setMinimumWidth(em * 16);
+        input_->installEventFilter(this);
         outer->addWidget(input_);
     }
     if (!request.details.empty()) {

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -104,6 +105,15 @@ TEST(ProgramBox, EachWayOfClosingGivesItsAnswer)
          kNo, ""},
         {"name and Enter", BoxRequest::Kind::Input, typeThen("Ann Smith", Qt::Key_Return), kYes,
          "Ann Smith"},
+        {"a held Enter", BoxRequest::Kind::Input,
+         [](ProgramBox &b) {
+             QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+             QCoreApplication::sendEvent(b.inputLine(), &held);
+             EXPECT_TRUE(b.isVisible()) << "the Enter that opened the box repeats";
+             QTest::keyClicks(b.inputLine(), "Ann");
+             QTest::keyClick(b.inputLine(), Qt::Key_Return);
+         },
+         kYes, "Ann"},
         {"name and Escape", BoxRequest::Kind::Input, typeThen("Ann", Qt::Key_Escape), kCancel, ""},
         {"OK by Escape", BoxRequest::Kind::Message, key(Qt::Key_Escape), kYes, ""},
     };
