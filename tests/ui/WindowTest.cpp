@@ -1,6 +1,7 @@
 // The window layer against a small test screen: layout scaling, events in both directions,
 // keys seen before they are applied, boxes and timers, screens closing inside their own events.
 #include "core/App.h"
+#include "core/PupilProgress.h"
 #include "core/Screen.h"
 #include "shell/AllScreens.h"
 #include "ui/ControlWidgets.h"
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QListWidget>
 #include <QPointer>
@@ -618,6 +620,41 @@ TEST_F(ProgramKeys, EnterWhileAnExchangeIsAwaitedDoesNothing)
     EXPECT_EQ(QApplication::focusWidget(), widget("Text11"));
     keypad("8");
     EXPECT_EQ(control("text17").caption, "Enter the tens.");
+}
+
+// Captions too wide for their labels: best times shrink to show every digit, a folder path loses
+// its middle on screen but not for screen readers; the name on the best-times screen is read-only.
+TEST_F(ProgramKeys, LongCaptionsFitTheirLabels)
+{
+    PupilProgress &p = app.progress();
+    p.PupilName = Value::text("Ann Smith");
+    p.AddBestNormal1 = Value::int32(123456789);
+    p.AddBestNeg1 = Value::real(37.5);
+    start("besttimes");
+    for (int member : {0, 1}) {
+        auto *cell = static_cast<QLabel *>(window.frontView()->widgetFor("Label39", member));
+        SCOPED_TRACE(cell->text().toStdString());
+        EXPECT_LE(QFontMetrics(cell->font()).horizontalAdvance(cell->text()),
+                  cell->contentsRect().width());
+    }
+    auto *name = static_cast<QLineEdit *>(widget("namebox"));
+    EXPECT_TRUE(name->isReadOnly());
+    QTest::keyClicks(name, "xy");
+    EXPECT_EQ(name->text(), "Ann Smith");
+
+    QTemporaryDir dir;
+    const QString deep = dir.filePath("a folder with a rather long name/and another one/"
+                                      "and a third to make the path far too wide/records");
+    ASSERT_TRUE(QDir().mkpath(deep));
+    p.RecordFolder = Value::text(deep.toStdString());
+    app.show("Filesystem");
+    window.syncAll();
+    auto *path = static_cast<QLabel *>(widget("lbldirname"));
+    EXPECT_EQ(control("lbldirname").caption, deep.toStdString());
+    EXPECT_TRUE(path->text().contains(QChar(0x2026))) << path->text().toStdString();
+    EXPECT_TRUE(path->text().endsWith("records"));
+    EXPECT_EQ(path->toolTip(), deep);
+    EXPECT_EQ(path->accessibleName(), deep);
 }
 
 } // namespace
