@@ -1,4 +1,6 @@
 #include "puzzles/factor.h"
+#include "puzzles/search.h"
+#include "puzzles/search2.h"
 #include "shell/AllScreens.h"
 
 namespace nb {
@@ -6,6 +8,8 @@ namespace nb {
 void registerPuzzleScreens(ScreenRegistry &registry)
 {
     registry.add<Factor>("factor", "Factor racing");
+    registry.add<Search>("search", "Sum Search");
+    registry.add<Search2>("search2", "Sum Search for two");
 }
 
 } // namespace nb

@@ -1,0 +1,212 @@
+#include "puzzles/SearchFrame.h"
+
+#include "activity/Ask.h"
+#include "core/NumberText.h"
+#include "core/Platform.h"
+#include "core/PupilProgress.h"
+
+namespace nb {
+
+namespace {
+
+constexpr int kBoardLeft = 300, kBoardTop = 1350, kCellStep = 930, kCellSize = 900;
+
+constexpr std::uint32_t kInk = rgb(30, 60, 140);
+constexpr std::uint32_t kCellBack = colors::white;
+constexpr std::uint32_t kCellChosen = colors::yellow;
+constexpr std::uint32_t kCellFound = rgb(150, 225, 150);
+constexpr std::uint32_t kFoundInk = rgb(60, 110, 60);
+
+const char *ruleFor(SearchOp op)
+{
+    switch (op) {
+    case SearchOp::Add:
+        return "Add the two numbers together.";
+    case SearchOp::Subtract:
+        return "Take the smaller number away from the bigger one.";
+    case SearchOp::Times:
+        return "Multiply the two numbers together.";
+    case SearchOp::Divide:
+        return "Divide the bigger number by the smaller one.";
+    }
+    return "";
+}
+
+} // namespace
+
+SearchFrame::SearchFrame(App &app)
+    : Screen(app)
+{
+    setSize(kWidth, kHeight);
+    setBackColor(rgb(235, 245, 255));
+    caller_ = int(progress().SearchCaller.number());
+    if (caller_ < 1 || caller_ > 4)
+        caller_ = 1;
+    board_ = SearchBoard(searchOpFor(caller_));
+
+    Control &line = label("target", "Press START to begin.", 300, 150, 11400, 750);
+    line.font.points = 24;
+    line.font.bold = true;
+    line.align = Align::Center;
+    line.foreColor = kInk;
+    Control &rule = label("rule", ruleFor(board_.op()), kBoardLeft, 880, 7440, 430);
+    rule.font.points = 15;
+    rule.align = Align::Center;
+    rule.foreColor = rgb(70, 70, 70);
+
+    shape("boardback", ShapeKind::Rectangle, rgb(43, 90, 168), rgb(43, 90, 168), kBoardLeft - 60,
+          kBoardTop - 60, 8 * kCellStep + 90, 8 * kCellStep + 90);
+    for (int cell = 0; cell < SearchBoard::kCells; ++cell) {
+        Control &c = label("cell", "", kBoardLeft + cell % SearchBoard::kSide * kCellStep + 15,
+                           kBoardTop + cell / SearchBoard::kSide * kCellStep + 15, kCellSize,
+                           kCellSize, cell + 1);
+        c.font.points = 22;
+        c.font.bold = true;
+        c.align = Align::Center;
+        c.backColor = kCellBack;
+        c.foreColor = kInk;
+        // A quick double press on a cell is one choice, not a choice and its undoing.
+        c.doubleClicks = false;
+    }
+    timer("Timer1", 1000);
+}
+
+const char *SearchFrame::menuFor(int caller)
+{
+    static const char *const menus[] = {"addmenu", "submenu", "mulmenu", "divmenu"};
+    return caller >= 1 && caller <= 4 ? menus[caller - 1] : menus[0];
+}
+
+std::string SearchFrame::targetText(int target)
+{
+    return "Find two numbers next to each other that make " + std::to_string(target);
+}
+
+Control &SearchFrame::valueLabel(std::string name, int l, int t, int w, int h, std::uint32_t ink)
+{
+    Control &c = label(std::move(name), "", l, t, w, h);
+    c.font.points = 26;
+    c.font.bold = true;
+    c.align = Align::Center;
+    c.border = true;
+    c.backColor = colors::white;
+    c.foreColor = ink;
+    return c;
+}
+
+Control &SearchFrame::textLabel(std::string name, std::string text, int l, int t, int w, int h)
+{
+    Control &c = label(std::move(name), std::move(text), l, t, w, h);
+    c.font.points = 18;
+    c.font.bold = true;
+    c.foreColor = kInk;
+    return c;
+}
+
+int SearchFrame::ask(const std::string &text)
+{
+    return nb::ask(platform(), progress(), text);
+}
+
+void SearchFrame::beginRound(int level)
+{
+    level_ = level;
+    board_.fill(level_, [this] { return draw(); });
+    selected_ = -1;
+    secondsLeft_ = kSeconds;
+    running_ = true;
+    setTimer("Timer1", true);
+    newTarget();
+    // The board takes the clicks; keys have nothing to do, and Enter must not reach a button.
+    setFocus("target");
+}
+
+void SearchFrame::stopRound()
+{
+    running_ = false;
+    selected_ = -1;
+    setTimer("Timer1", false);
+    render();
+}
+
+void SearchFrame::leave()
+{
+    stopRound();
+    handOver(homeMenu());
+}
+
+void SearchFrame::newTarget()
+{
+    std::optional<int> t = board_.pickTarget([this] { return draw(); });
+    // Every pair on the board has been found (or none makes a target): fresh numbers.
+    for (int tries = 0; !t && tries < 20; ++tries) {
+        board_.fill(level_, [this] { return draw(); });
+        t = board_.pickTarget([this] { return draw(); });
+    }
+    if (!t) {
+        // Draws that never make a pair: a pair is placed, a number and its double.
+        board_.setValue(1, 2 * board_.value(0));
+        t = board_.pickTarget([this] { return draw(); });
+    }
+    target_ = t.value_or(0);
+    render();
+}
+
+void SearchFrame::onClick(const std::string &name, int index)
+{
+    if (name == "cell")
+        cellClicked(index - 1);
+}
+
+void SearchFrame::cellClicked(int cell)
+{
+    if (!running_ || !SearchBoard::onBoard(cell) || board_.found(cell))
+        return;
+    if (selected_ < 0 || !SearchBoard::neighbours(selected_, cell)) {
+        // A first choice; the same cell again takes it back; a cell that does not touch the
+        // first choice becomes the first choice instead.
+        selected_ = selected_ == cell ? -1 : cell;
+        render();
+        return;
+    }
+    const int first = selected_;
+    selected_ = -1;
+    if (board_.isAnswer(first, cell, target_)) {
+        board_.markFound(first, cell);
+        platform().beep();
+        newTarget();
+        pairFound();
+    } else {
+        render();
+        pairWrong();
+    }
+}
+
+void SearchFrame::onTimer(const std::string &name)
+{
+    if (name != "Timer1" || !running_)
+        return;
+    --secondsLeft_;
+    render();
+    secondPassed();
+    if (running_ && secondsLeft_ <= 0) {
+        stopRound();
+        timeUp();
+    }
+}
+
+void SearchFrame::render()
+{
+    for (int cell = 0; cell < SearchBoard::kCells; ++cell) {
+        Control &c = ctl("cell", cell + 1);
+        c.caption = board_.value(cell) ? std::to_string(board_.value(cell)) : "";
+        c.backColor = board_.found(cell) ? kCellFound : cell == selected_ ? kCellChosen : kCellBack;
+        c.foreColor = board_.found(cell) ? kFoundInk : kInk;
+    }
+    if (target_ > 0)
+        Screen::caption("target") = targetText(target_);
+    if (Control *time = find("time"))
+        time->caption = std::to_string(secondsLeft_);
+}
+
+} // namespace nb
