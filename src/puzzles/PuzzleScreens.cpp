@@ -1,4 +1,5 @@
 #include "puzzles/factor.h"
+#include "puzzles/perfection.h"
 #include "puzzles/search.h"
 #include "puzzles/search2.h"
 #include "shell/AllScreens.h"
@@ -10,6 +11,7 @@ void registerPuzzleScreens(ScreenRegistry &registry)
     registry.add<Factor>("factor", "Factor racing");
     registry.add<Search>("search", "Sum Search");
     registry.add<Search2>("search2", "Sum Search for two");
+    registry.add<Perfection>("perfection", "Perfection");
 }
 
 } // namespace nb

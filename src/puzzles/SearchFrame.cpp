@@ -5,12 +5,18 @@
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
 
+#include <cmath>
+
 namespace nb {
 
 namespace {
 
-constexpr int kBoardLeft = 300, kBoardTop = 1350, kCellStep = 930, kCellSize = 900;
+// The board canvas: cells of kCellSize twips every kCellStep twips, kMargin from its edges.
+constexpr int kCellStep = 930, kCellSize = 900, kMargin = 30;
+constexpr int kBoardSize = 2 * kMargin + 7 * kCellStep + kCellSize;
+constexpr int kBoardLeft = 270, kBoardTop = 1320;
 
+constexpr std::uint32_t kBoardBack = rgb(43, 90, 168);
 constexpr std::uint32_t kInk = rgb(30, 60, 140);
 constexpr std::uint32_t kCellBack = colors::white;
 constexpr std::uint32_t kCellChosen = colors::yellow;
@@ -49,25 +55,15 @@ SearchFrame::SearchFrame(App &app)
     line.font.bold = true;
     line.align = Align::Center;
     line.foreColor = kInk;
-    Control &rule = label("rule", ruleFor(board_.op()), kBoardLeft, 880, 7440, 430);
+    Control &rule = label("rule", ruleFor(board_.op()), kBoardLeft, 880, kBoardSize, 430);
     rule.font.points = 15;
     rule.align = Align::Center;
     rule.foreColor = rgb(70, 70, 70);
 
-    shape("boardback", ShapeKind::Rectangle, rgb(43, 90, 168), rgb(43, 90, 168), kBoardLeft - 60,
-          kBoardTop - 60, 8 * kCellStep + 90, 8 * kCellStep + 90);
-    for (int cell = 0; cell < SearchBoard::kCells; ++cell) {
-        Control &c = label("cell", "", kBoardLeft + cell % SearchBoard::kSide * kCellStep + 15,
-                           kBoardTop + cell / SearchBoard::kSide * kCellStep + 15, kCellSize,
-                           kCellSize, cell + 1);
-        c.font.points = 22;
-        c.font.bold = true;
-        c.align = Align::Center;
-        c.backColor = kCellBack;
-        c.foreColor = kInk;
-        // A quick double press on a cell is one choice, not a choice and its undoing.
-        c.doubleClicks = false;
-    }
+    Control &board = canvas("board", kBoardLeft, kBoardTop, kBoardSize, kBoardSize);
+    board.backColor = kBoardBack;
+    // A quick double press on a cell is one choice, not a choice and its undoing.
+    board.doubleClicks = false;
     timer("Timer1", 1000);
 }
 
@@ -152,10 +148,26 @@ void SearchFrame::newTarget()
     render();
 }
 
-void SearchFrame::onClick(const std::string &name, int index)
+int SearchFrame::cellAt(double x, double y)
 {
-    if (name == "cell")
-        cellClicked(index - 1);
+    // Each cell owns the gap around it, so a press near an edge still counts.
+    const int column = int(std::floor((x - kMargin / 2.0) / kCellStep));
+    const int row = int(std::floor((y - kMargin / 2.0) / kCellStep));
+    if (column < 0 || column >= SearchBoard::kSide || row < 0 || row >= SearchBoard::kSide)
+        return -1;
+    return row * SearchBoard::kSide + column;
+}
+
+void SearchFrame::cellCentre(int cell, double &x, double &y)
+{
+    x = kMargin + cell % SearchBoard::kSide * kCellStep + kCellSize / 2.0;
+    y = kMargin + cell / SearchBoard::kSide * kCellStep + kCellSize / 2.0;
+}
+
+void SearchFrame::onMouseDown(const MousePress &press)
+{
+    if (press.name == "board")
+        cellClicked(cellAt(press.x, press.y));
 }
 
 void SearchFrame::cellClicked(int cell)
@@ -197,11 +209,17 @@ void SearchFrame::onTimer(const std::string &name)
 
 void SearchFrame::render()
 {
+    Drawing &d = ctl("board").drawing;
+    d.clear();
     for (int cell = 0; cell < SearchBoard::kCells; ++cell) {
-        Control &c = ctl("cell", cell + 1);
-        c.caption = board_.value(cell) ? std::to_string(board_.value(cell)) : "";
-        c.backColor = board_.found(cell) ? kCellFound : cell == selected_ ? kCellChosen : kCellBack;
-        c.foreColor = board_.found(cell) ? kFoundInk : kInk;
+        const double l = kMargin + cell % SearchBoard::kSide * kCellStep;
+        const double t = kMargin + cell / SearchBoard::kSide * kCellStep;
+        const bool found = board_.found(cell);
+        const std::uint32_t back = found ? kCellFound : cell == selected_ ? kCellChosen : kCellBack;
+        d.rect(l, t, l + kCellSize, t + kCellSize, back, back, 0);
+        if (board_.value(cell))
+            d.text(l, t, l + kCellSize, t + kCellSize, std::to_string(board_.value(cell)),
+                   found ? kFoundInk : kInk, 22, true);
     }
     if (target_ > 0)
         Screen::caption("target") = targetText(target_);

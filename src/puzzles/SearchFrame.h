@@ -1,9 +1,9 @@
 #pragma once
-// The frame both search puzzles share: the 8 x 8 board of numbers as the control array
-// cell(1) .. cell(64), the target line, the rule line, the 120-second clock counting down in
-// `time`, and the pairing of two clicked cells. A right pair is marked found and a new target
-// follows; a wrong pair is cleared. The screens over it decide what a find and the end of the
-// time mean.
+// The frame both search puzzles share: the 8 x 8 board of numbers drawn on the canvas `board`
+// (a press on a cell chooses it), the target line, the rule line, the 120-second clock counting
+// down in `time`, and the pairing of two clicked cells. A right pair is marked found and a new
+// target follows; a wrong pair is cleared. The screens over it decide what a find and the end of
+// the time mean.
 #include "core/Screen.h"
 #include "puzzles/SearchBoard.h"
 
@@ -23,7 +23,11 @@ public:
     // "Find two numbers next to each other that make 24"
     static std::string targetText(int target);
 
-    void onClick(const std::string &name, int index) override;
+    void onMouseDown(const MousePress &press) override;
+    // The cell (0 to 63) under a point of the board canvas in twips, or -1 off the cells.
+    static int cellAt(double x, double y);
+    // The centre of a cell on the board canvas, in twips.
+    static void cellCentre(int cell, double &x, double &y);
     void onTimer(const std::string &name) override;
 
     const SearchBoard &board() const { return board_; }

@@ -62,14 +62,12 @@ void Search::onOpened()
     caption("level") = std::to_string(level_);
 }
 
-void Search::onClick(const std::string &name, int index)
+void Search::onClick(const std::string &name, int)
 {
     if (name == "start" && !running()) {
         begin();
     } else if (name == "exit") {
         leave();
-    } else {
-        SearchFrame::onClick(name, index);
     }
 }
 

@@ -43,7 +43,7 @@ Search2::Search2(App &app)
     valueLabel("turntime", x + 2300, 4250, 1250, 800, rgb(30, 60, 140));
 
     Control &line = textLabel("text1", "Press START to enter your names.", x, 5200, w, 1150);
-    line.font.points = 15;
+    line.font.points = 20;
     line.align = Align::Center;
     for (int p = 0; p < 2; ++p) {
         Control &box =
@@ -65,15 +65,13 @@ Search2::Search2(App &app)
     setFocus("start");
 }
 
-void Search2::onClick(const std::string &name, int index)
+void Search2::onClick(const std::string &name, int)
 {
     if (name == "start") {
         setEnabled("start", false);
         askName(0);
     } else if (name == "exit") {
         leave();
-    } else {
-        SearchFrame::onClick(name, index);
     }
 }
 

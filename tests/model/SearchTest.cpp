@@ -43,10 +43,29 @@ std::pair<int, int> wrongPair(Driver &d)
     ADD_FAILURE() << "every pair makes the target";
     return {0, 1};
 }
+// A press in the middle of a cell of the board (cells counted from 0).
+void press(Driver &d, int cell)
+{
+    double x = 0, y = 0;
+    SearchFrame::cellCentre(cell, x, y);
+    d.mouseDown("board", x, y);
+}
+// The colour a cell is painted on the board.
+std::uint32_t cellBack(Driver &d, int cell)
+{
+    double x = 0, y = 0;
+    SearchFrame::cellCentre(cell, x, y);
+    for (const DrawOp &op : d.control("board").drawing.ops)
+        if (op.kind == DrawOp::Kind::Rect && op.points[0].x < x && x < op.points[1].x &&
+            op.points[0].y < y && y < op.points[1].y)
+            return op.fillColor;
+    ADD_FAILURE() << "cell " << cell << " is not drawn";
+    return 0;
+}
 void clickPair(Driver &d, std::pair<int, int> p)
 {
-    d.click("cell", p.first + 1);
-    d.click("cell", p.second + 1);
+    press(d, p.first);
+    press(d, p.second);
 }
 void findPairs(Driver &d, int n)
 {
@@ -58,7 +77,7 @@ TEST(SearchScreen, ClicksPairCellsAndOnlyARightPairOfNeighboursScores)
 {
     Driver d;
     open(d, 1);
-    d.click("cell", 1); // before START: nothing to choose
+    press(d, 0); // before START: nothing to choose
     EXPECT_EQ(frame(d).selected(), -1);
     d.click("start");
     EXPECT_FALSE(d.enabled("start"));
@@ -66,37 +85,57 @@ TEST(SearchScreen, ClicksPairCellsAndOnlyARightPairOfNeighboursScores)
     EXPECT_EQ(d.caption("rule"), "Add the two numbers together.");
 
     const auto [a, b] = answer(d);
-    d.click("cell", a + 1); // the same cell twice takes the choice back
-    d.click("cell", a + 1);
+    press(d, a); // the same cell twice takes the choice back
+    press(d, a);
     EXPECT_EQ(frame(d).selected(), -1);
-    d.click("cell", a + 1); // a double press is one choice
-    d.doubleClick("cell", a + 1);
+    press(d, a); // a double press is one choice
+    d.doubleClick("board");
     EXPECT_EQ(frame(d).selected(), a);
-    EXPECT_EQ(d.backColor("cell", a + 1), colors::yellow);
+    EXPECT_EQ(cellBack(d, a), colors::yellow);
     const int far = a < 32 ? 63 : 0; // a cell that does not touch: it becomes the choice
-    d.click("cell", far + 1);
+    press(d, far);
     EXPECT_EQ(frame(d).selected(), far);
-    d.click("cell", far + 1);
+    press(d, far);
 
     const auto wrong = wrongPair(d);
     clickPair(d, wrong);
     EXPECT_EQ(frame(d).selected(), -1);
     EXPECT_EQ(d.caption("score"), "0");
-    EXPECT_EQ(d.backColor("cell", wrong.first + 1), colors::white);
+    EXPECT_EQ(cellBack(d, wrong.first), colors::white);
     EXPECT_EQ(d.platform.beeps, 0);
 
     clickPair(d, {b, a}); // either order
     EXPECT_EQ(d.caption("score"), "1");
     EXPECT_EQ(d.platform.beeps, 1);
     EXPECT_TRUE(frame(d).board().found(a) && frame(d).board().found(b));
-    EXPECT_NE(d.backColor("cell", a + 1), colors::white);
-    d.click("cell", a + 1); // a found cell cannot be chosen again
+    EXPECT_NE(cellBack(d, a), colors::white);
+    press(d, a); // a found cell cannot be chosen again
     EXPECT_EQ(frame(d).selected(), -1);
 
-    d.screenKeys("a5 \r\x1b"); // keys have nothing to do on the board
-    d.mouseDown("cell", -50, 99999, 3);
+    d.screenKeys("a5 \r\x1b");        // keys have nothing to do on the board
+    d.mouseDown("board", -50, 99999); // off the cells
+    d.mouseDown("board", 5, 5);
+    d.pressAt(100, 100); // off the board
+    EXPECT_EQ(frame(d).selected(), -1);
     EXPECT_EQ(d.caption("score"), "1");
     EXPECT_EQ(d.frontName(), "search");
+}
+
+TEST(SearchScreen, APressAnywhereOnACellOrTheGapBesideItChoosesThatCell)
+{
+    for (int cell = 0; cell < SearchBoard::kCells; ++cell) {
+        double x = 0, y = 0;
+        SearchFrame::cellCentre(cell, x, y);
+        for (double dx : {-460.0, 0.0, 460.0})
+            for (double dy : {-460.0, 0.0, 460.0})
+                ASSERT_EQ(SearchFrame::cellAt(x + dx, y + dy), cell) << dx << ", " << dy;
+    }
+    struct Off
+    {
+        double x, y;
+    } offs[] = {{0, 0}, {10, 500}, {500, 10}, {7465, 500}, {500, 7465}, {-1, -1}, {1e9, 1e9}};
+    for (const Off &o : offs)
+        EXPECT_EQ(SearchFrame::cellAt(o.x, o.y), -1) << o.x << ", " << o.y;
 }
 
 TEST(SearchScreen, EveryTargetShownCanBeFoundThroughManyBoards)
@@ -120,8 +159,8 @@ TEST(SearchScreen, EveryTargetShownCanBeFoundThroughManyBoards)
             for (int a = 0; a < SearchBoard::kCells && !found; ++a)
                 for (int b = 0; b < SearchBoard::kCells && !found; ++b)
                     if (s.board().isAnswer(a, b, s.target())) {
-                        drv.click("cell", a + 1);
-                        drv.click("cell", b + 1);
+                        press(drv, a);
+                        press(drv, b);
                         found = true;
                     }
             ASSERT_TRUE(found) << "target " << s.target() << " after " << i << " finds";
@@ -201,7 +240,7 @@ TEST(SearchScreen, ClicksAfterTheClockStopsDoNothingAndExitLeavesAtOnce)
     open(d, 4);
     d.click("start");
     const auto [a, b] = answer(d);
-    d.click("cell", a + 1);
+    press(d, a);
     d.tick("Timer1", 119);
     EXPECT_EQ(d.caption("time"), "1");
     d.platform.queueYes(); // another go: a fresh board, the full time again
