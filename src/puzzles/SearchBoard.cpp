@@ -49,6 +49,7 @@ void SearchBoard::fill(int level, const Draw &draw)
             v *= wholeFromDraw(draw(), r.lo, r.hi);
     }
     found_.fill(false);
+    foundPairs_.clear();
 }
 
 bool SearchBoard::neighbours(int a, int b)
@@ -111,6 +112,7 @@ void SearchBoard::markFound(int a, int b)
 {
     found_[std::size_t(a)] = true;
     found_[std::size_t(b)] = true;
+    foundPairs_.emplace_back(a, b);
 }
 
 } // namespace nb

@@ -53,11 +53,14 @@ public:
     // A target made by one of the open pairs, or nothing when none is left.
     std::optional<int> pickTarget(const Draw &draw) const;
     void markFound(int a, int b);
+    // The pairs found on this board, in the order they were found.
+    const std::vector<std::pair<int, int>> &foundPairs() const { return foundPairs_; }
 
 private:
     SearchOp op_;
     std::array<int, kCells> values_{};
     std::array<bool, kCells> found_{};
+    std::vector<std::pair<int, int>> foundPairs_;
 };
 
 // The numbers a level puts on the board.

@@ -21,7 +21,8 @@ constexpr std::uint32_t kInk = rgb(30, 60, 140);
 constexpr std::uint32_t kCellBack = colors::white;
 constexpr std::uint32_t kCellChosen = colors::yellow;
 constexpr std::uint32_t kCellFound = rgb(150, 225, 150);
-constexpr std::uint32_t kFoundInk = rgb(60, 110, 60);
+constexpr std::uint32_t kFoundInk = rgb(30, 80, 30);
+constexpr std::uint32_t kFoundBar = rgb(95, 185, 95);
 
 const char *ruleFor(SearchOp op)
 {
@@ -211,15 +212,29 @@ void SearchFrame::render()
 {
     Drawing &d = ctl("board").drawing;
     d.clear();
+    const auto box = [](int cell) {
+        return PointTw{double(kMargin + cell % SearchBoard::kSide * kCellStep),
+                       double(kMargin + cell / SearchBoard::kSide * kCellStep)};
+    };
     for (int cell = 0; cell < SearchBoard::kCells; ++cell) {
-        const double l = kMargin + cell % SearchBoard::kSide * kCellStep;
-        const double t = kMargin + cell / SearchBoard::kSide * kCellStep;
-        const bool found = board_.found(cell);
-        const std::uint32_t back = found ? kCellFound : cell == selected_ ? kCellChosen : kCellBack;
-        d.rect(l, t, l + kCellSize, t + kCellSize, back, back, 0);
+        const PointTw p = box(cell);
+        const std::uint32_t back = board_.found(cell)  ? kCellFound
+                                   : cell == selected_ ? kCellChosen
+                                                       : kCellBack;
+        d.rect(p.x, p.y, p.x + kCellSize, p.y + kCellSize, back, back, 0);
+    }
+    // A short bar across the gap joins the two numbers of each pair found.
+    for (const auto &[a, b] : board_.foundPairs()) {
+        const PointTw pa = box(a), pb = box(b);
+        const double dx = pb.x - pa.x, dy = pb.y - pa.y, half = kCellSize / 2.0;
+        d.line(pa.x + half + 0.3 * dx, pa.y + half + 0.3 * dy, pa.x + half + 0.7 * dx,
+               pa.y + half + 0.7 * dy, kFoundBar, 140);
+    }
+    for (int cell = 0; cell < SearchBoard::kCells; ++cell) {
+        const PointTw p = box(cell);
         if (board_.value(cell))
-            d.text(l, t, l + kCellSize, t + kCellSize, std::to_string(board_.value(cell)),
-                   found ? kFoundInk : kInk, 22, true);
+            d.text(p.x, p.y, p.x + kCellSize, p.y + kCellSize, std::to_string(board_.value(cell)),
+                   board_.found(cell) ? kFoundInk : kInk, 22, true);
     }
     if (target_ > 0)
         Screen::caption("target") = targetText(target_);
