@@ -200,7 +200,7 @@ void SearchFrame::onTimer(const std::string &name)
     if (name != "Timer1" || !running_)
         return;
     --secondsLeft_;
-    render();
+    showClock(); // the board is unchanged, so the window keeps its picture of it
     secondPassed();
     if (running_ && secondsLeft_ <= 0) {
         stopRound();
@@ -238,6 +238,11 @@ void SearchFrame::render()
     }
     if (target_ > 0)
         Screen::caption("target") = targetText(target_);
+    showClock();
+}
+
+void SearchFrame::showClock()
+{
     if (Control *time = find("time"))
         time->caption = std::to_string(secondsLeft_);
 }

@@ -65,6 +65,7 @@ private:
     void cellClicked(int cell);
     void newTarget();
     void render();
+    void showClock();
 
     int caller_ = 1;
     int level_ = 1;
