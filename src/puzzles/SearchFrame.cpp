@@ -100,6 +100,17 @@ Control &SearchFrame::textLabel(std::string name, std::string text, int l, int t
     return c;
 }
 
+void SearchFrame::startAndExit()
+{
+    const auto big = [](Control &c, std::uint32_t back) {
+        c.font.points = 22;
+        c.font.bold = true;
+        c.backColor = back;
+    };
+    big(button("start", "START", kPanelLeft + 100, 7600, 1750, 950), rgb(120, 220, 120));
+    big(button("exit", "EXIT", kPanelLeft + 2000, 7600, 1550, 950), rgb(250, 150, 150));
+}
+
 int SearchFrame::ask(const std::string &text)
 {
     return nb::ask(platform(), progress(), text);

@@ -50,6 +50,8 @@ protected:
     int ask(const std::string &text);
     // A framed white label for a number the pupil watches.
     Control &valueLabel(std::string name, int l, int t, int w, int h, std::uint32_t ink);
+    // The START and EXIT buttons at the foot of the panel.
+    void startAndExit();
     Control &textLabel(std::string name, std::string text, int l, int t, int w, int h);
 
     // A right pair has been marked and a new target is on show.

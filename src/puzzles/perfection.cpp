@@ -3,6 +3,7 @@
 #include "activity/Ask.h"
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
+#include "puzzles/PuzzleLevels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -142,13 +143,8 @@ int Perfection::ask(const std::string &text)
 
 void Perfection::onOpened()
 {
-    const int reached = int(progress().PerfectionBest.number());
-    if (reached > 0) {
-        const int next = std::min(reached + 1, PerfectionSquare::kLevels);
-        if (ask("You have reached level " + std::to_string(next) +
-                " before, would you like to go straight to this level now?") == kYes)
-            level_ = next;
-    }
+    level_ =
+        offerLevel(platform(), progress(), progress().PerfectionBest, PerfectionSquare::kLevels);
     caption("level") = std::to_string(level_);
     square_.clear(level_);
     layOut();
@@ -236,17 +232,11 @@ void Perfection::markIt()
 void Perfection::finished(int percent)
 {
     if (percent == 100) {
-        // The highest level passed is kept; passing an easier one later does not lower it.
-        if (level_ > int(progress().PerfectionBest.number()))
-            progress().PerfectionBest = Value::int16(std::int16_t(level_));
-        const std::string passed = "Perfect! You have passed level " + std::to_string(level_);
-        if (level_ < PerfectionSquare::kLevels) {
-            if (ask(passed + ". Do you want to try the next level ?") != kYes)
-                return leave();
-            ++level_;
-        } else if (ask(passed + ", the top level. Do you want another go ?") != kYes) {
+        level_ = levelPassed(platform(), progress(), progress().PerfectionBest, level_,
+                             PerfectionSquare::kLevels,
+                             "Perfect! You have passed level " + std::to_string(level_));
+        if (level_ == 0)
             return leave();
-        }
     } else if (ask("You got " + std::to_string(percent) + "% right. Do you want another go ?") !=
                kYes) {
         return leave();

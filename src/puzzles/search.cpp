@@ -2,8 +2,7 @@
 
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
-
-#include <algorithm>
+#include "puzzles/PuzzleLevels.h"
 
 namespace nb {
 
@@ -32,14 +31,7 @@ Search::Search(App &app)
     need.font.points = 15;
     need.align = Align::Center;
 
-    Control &start = button("start", "START", x + 100, 7600, 1750, 950);
-    start.font.points = 22;
-    start.font.bold = true;
-    start.backColor = rgb(120, 220, 120);
-    Control &exit = button("exit", "EXIT", x + 2000, 7600, 1550, 950);
-    exit.font.points = 22;
-    exit.font.bold = true;
-    exit.backColor = rgb(250, 150, 150);
+    startAndExit();
     setFocus("start");
 }
 
@@ -52,13 +44,7 @@ Value &Search::best()
 
 void Search::onOpened()
 {
-    const int reached = int(best().number());
-    if (reached > 0) {
-        const int next = std::min(reached + 1, SearchBoard::kLevels);
-        if (ask("You have reached level " + std::to_string(next) +
-                " before, would you like to go straight to this level now?") == kYes)
-            level_ = next;
-    }
+    level_ = offerLevel(platform(), progress(), best(), SearchBoard::kLevels);
     caption("level") = std::to_string(level_);
 }
 
@@ -91,20 +77,12 @@ void Search::pairFound()
 
 void Search::passed()
 {
-    // The highest level passed is kept; an easier level passed later does not lower it.
-    Value &slot = best();
-    if (level_ > int(slot.number()))
-        slot = Value::int16(std::int16_t(level_));
-    const std::string found = "Well done, you found " + pairs(score_) + " in " +
-                              std::to_string(kSeconds - secondsLeft()) +
-                              " seconds and passed level " + std::to_string(level_);
-    if (level_ < SearchBoard::kLevels) {
-        if (ask(found + ". Do you want to try the next level ?") != kYes)
-            return leave();
-        ++level_;
-    } else if (ask(found + ", the top level. Do you want another go ?") != kYes) {
+    level_ = levelPassed(platform(), progress(), best(), level_, SearchBoard::kLevels,
+                         "Well done, you found " + pairs(score_) + " in " +
+                             std::to_string(kSeconds - secondsLeft()) +
+                             " seconds and passed level " + std::to_string(level_));
+    if (level_ == 0)
         return leave();
-    }
     begin();
 }
 

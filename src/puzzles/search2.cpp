@@ -54,14 +54,7 @@ Search2::Search2(App &app)
         box.visible = false;
     }
 
-    Control &start = button("start", "START", x + 100, 7600, 1750, 950);
-    start.font.points = 22;
-    start.font.bold = true;
-    start.backColor = rgb(120, 220, 120);
-    Control &exit = button("exit", "EXIT", x + 2000, 7600, 1550, 950);
-    exit.font.points = 22;
-    exit.font.bold = true;
-    exit.backColor = rgb(250, 150, 150);
+    startAndExit();
     setFocus("start");
 }
 
