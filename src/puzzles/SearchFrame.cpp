@@ -129,6 +129,14 @@ void SearchFrame::beginRound(int level)
     setFocus("target");
 }
 
+void SearchFrame::dropChoice()
+{
+    if (selected_ < 0)
+        return;
+    selected_ = -1;
+    render();
+}
+
 void SearchFrame::stopRound()
 {
     running_ = false;

@@ -42,6 +42,8 @@ protected:
     int caller() const { return caller_; }
     // A new board for the level, a target, the full time on the clock and the clock running.
     void beginRound(int level);
+    // Takes back a first choice that has no partner yet.
+    void dropChoice();
     // Stops the clock; the board stays as it is.
     void stopRound();
     void leave(); // back to the home menu

@@ -133,6 +133,7 @@ void Search2::showTurn()
 
 void Search2::passTurn()
 {
+    dropChoice(); // a number chosen by one pupil is not left for the other
     turn_ = 1 - turn_;
     turnLeft_ = kTurnSeconds;
     showTurn();

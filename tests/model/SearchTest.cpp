@@ -301,8 +301,10 @@ TEST(SearchForTwo, TurnsPassAndEachFindScoresForTheFinder)
     EXPECT_EQ(d.caption("text1"), "Ann, it is your turn.");
     d.tick("Timer1", 19);
     EXPECT_EQ(d.caption("turntime"), "1");
-    d.tick("Timer1"); // Ann's turn ran out
+    press(d, answer(d).first);
+    d.tick("Timer1"); // Ann's turn ran out, and her choice goes with it
     EXPECT_EQ(d.caption("text1"), "Bob, it is your turn.");
+    EXPECT_EQ(frame(d).selected(), -1);
     findPairs(d, 2); // Bob, then Ann
     EXPECT_EQ(d.caption("p1score"), "2");
     EXPECT_EQ(d.caption("p2score"), "1");
