@@ -94,12 +94,5 @@ TEST(SearchBoard, EveryTargetHasAPairOnTheBoardUntilTheBoardIsUsedUp)
     }
 }
 
-TEST(SearchBoard, CallersOutsideOneToFourAdd)
-{
-    EXPECT_EQ(searchOpFor(0), SearchOp::Add);
-    EXPECT_EQ(searchOpFor(5), SearchOp::Add);
-    EXPECT_EQ(searchOpFor(4), SearchOp::Divide);
-}
-
 } // namespace
 } // namespace nb

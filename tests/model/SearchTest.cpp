@@ -138,36 +138,6 @@ TEST(SearchScreen, APressAnywhereOnACellOrTheGapBesideItChoosesThatCell)
         EXPECT_EQ(SearchFrame::cellAt(o.x, o.y), -1) << o.x << ", " << o.y;
 }
 
-TEST(SearchScreen, EveryTargetShownCanBeFoundThroughManyBoards)
-{
-    for (int caller = 1; caller <= 4; ++caller) {
-        SCOPED_TRACE(caller);
-        Driver drv;
-        drv.progress().SearchCaller = Value::int16(std::int16_t(caller));
-        drv.progress().SearchBest1 = drv.progress().SearchBest2 = drv.progress().SearchBest3 =
-            drv.progress().SearchBest4 = Value::int16(4);
-        drv.platform.queueYes(); // straight to level 5, the widest numbers
-        drv.open("search");
-        drv.click("start");
-        auto &s = dynamic_cast<const SearchFrame &>(drv.front());
-        // Sixteen rounds of finds: the top level is passed at each tenth find and another
-        // round starts at once on a fresh board.
-        for (int i = 0; i < 160; ++i) {
-            if (i % 10 == 9)
-                drv.platform.queueYes();
-            bool found = false;
-            for (int a = 0; a < SearchBoard::kCells && !found; ++a)
-                for (int b = 0; b < SearchBoard::kCells && !found; ++b)
-                    if (s.board().isAnswer(a, b, s.target())) {
-                        press(drv, a);
-                        press(drv, b);
-                        found = true;
-                    }
-            ASSERT_TRUE(found) << "target " << s.target() << " after " << i << " finds";
-        }
-    }
-}
-
 TEST(SearchScreen, TenFindsPassTheLevelAndTheHighestLevelIsKept)
 {
     struct Case
@@ -321,6 +291,22 @@ TEST(SearchForTwo, TurnsPassAndEachFindScoresForTheFinder)
                                         "Do you want another game?");
     EXPECT_EQ(d.frontName(), "pairmenu");
     EXPECT_TRUE(d.progress().SearchBest1.isEmpty());
+}
+
+TEST(SearchForTwo, AUsedUpBoardIsFollowedByFreshNumbersAndTargetsKeepComing)
+{
+    for (int caller = 1; caller <= 4; ++caller) {
+        Driver d;
+        open(d, caller, "search2");
+        names(d, "Ann", "Bob");
+        // At most 32 pairs fit on one board, so 40 finds need a second one.
+        for (int i = 0; i < 40; ++i) {
+            ASSERT_FALSE(frame(d).board().openPairs().empty()) << caller << ": find " << i;
+            findPairs(d, 1);
+        }
+        EXPECT_EQ(std::stoi(d.caption("p1score")) + std::stoi(d.caption("p2score")), 40);
+        EXPECT_LT(frame(d).board().foundPairs().size(), 32u);
+    }
 }
 
 TEST(SearchForTwo, ExitDuringNamesReturnsToTheGamesMenu)
