@@ -204,7 +204,7 @@ TEST(SearchScreen, StoredLevelIsOfferedAndALowerPassDoesNotLowerIt)
     EXPECT_EQ(top.caption("level"), "5");
 }
 
-TEST(SearchScreen, ClicksAfterTheClockStopsDoNothingAndExitLeavesAtOnce)
+TEST(SearchScreen, WhenTheClockStopsTheChoiceIsDroppedAndAnotherGoStartsAfresh)
 {
     Driver d;
     open(d, 4);
