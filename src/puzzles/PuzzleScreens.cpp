@@ -1,8 +1,9 @@
+#include "puzzles/PuzzleScreens.h"
+
 #include "puzzles/factor.h"
 #include "puzzles/perfection.h"
 #include "puzzles/search.h"
 #include "puzzles/search2.h"
-#include "shell/AllScreens.h"
 
 namespace nb {
 
