@@ -1,7 +1,6 @@
 #include "puzzles/SearchFrame.h"
 
 #include "activity/Ask.h"
-#include "core/NumberText.h"
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
 
