@@ -65,6 +65,7 @@ SearchFrame::SearchFrame(App &app)
     // A quick double press on a cell is one choice, not a choice and its undoing.
     board.doubleClicks = false;
     timer("Timer1", 1000);
+    render(); // empty cells until START
 }
 
 const char *SearchFrame::menuFor(int caller)

@@ -42,7 +42,7 @@ Search2::Search2(App &app)
     textLabel("turnlabel", "This turn", x + 100, 4350, 2100, 700);
     valueLabel("turntime", x + 2300, 4250, 1250, 800, rgb(30, 60, 140));
 
-    Control &line = textLabel("text1", "Press START to enter your names.", x, 5200, w, 1150);
+    Control &line = textLabel("text1", "Take turns to find the pairs.", x, 5200, w, 1150);
     line.font.points = 20;
     line.align = Align::Center;
     for (int p = 0; p < 2; ++p) {
@@ -55,6 +55,7 @@ Search2::Search2(App &app)
     }
 
     startAndExit();
+    caption("target") = "Press START to enter your names.";
     setFocus("start");
 }
 
@@ -71,6 +72,7 @@ void Search2::onClick(const std::string &name, int)
 void Search2::askName(int player)
 {
     const std::string n = std::to_string(player + 1);
+    caption("target") = "Who is playing?";
     caption("text1") = "Player " + n + ", please enter your name.";
     Control &box = ctl("player" + n);
     box.caption.clear();
