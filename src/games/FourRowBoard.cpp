@@ -52,7 +52,7 @@ bool FourRowBoard::claim(int row, int col, Owner who)
 {
     if (!onBoard(row, col) || !isFree(row, col) || who == Owner::None)
         return false;
-    owner_[std::size_t(row)][std::size_t(col)] = who;
+    owner_.cells[row][col] = who;
     setStatus(who, row, col, kClaimed);
     setStatus(opponentOf(who), row, col, kOpponents);
     ++claimed_;

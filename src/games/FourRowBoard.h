@@ -88,7 +88,7 @@ public:
     Owner owner(int row, int col) const
     {
         assert(row >= 1 && row < kGrid && col >= 1 && col < kGrid);
-        return owner_[std::size_t(row)][std::size_t(col)];
+        return owner_.cells[row][col];
     }
     bool isFree(int row, int col) const { return owner(row, col) == Owner::None; }
     int claimed() const { return claimed_; }
@@ -122,7 +122,11 @@ public:
 private:
     Numbers left_{}, right_{};
     std::array<std::array<int, kSide>, kSide> sums_{};
-    Grid<Owner> owner_{};
+    // A plain array: every line walk reads it, and it is copied whole with the board.
+    struct
+    {
+        Owner cells[kGrid][kGrid];
+    } owner_{};
     Grid<std::int8_t> redStatus_{}, greenStatus_{}, freeScore_{};
     int claimed_ = 0;
 };

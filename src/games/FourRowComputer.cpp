@@ -38,10 +38,12 @@ int score(const FourRowBoard &b, int row, int col, Owner side)
 {
     int best = 0;
     for (const Step s : kDirections) {
-        if (!lineOpen(b, row, col, s, side))
-            continue;
-        const int n = own(b, row, col, s, side) + own(b, row, col, {-s.dr, -s.dc}, side);
-        best = std::max(best, std::min(n, kComplete));
+        // The pieces are counted first: a direction that cannot raise the score needs no room
+        // count, and most directions of most cells have no piece beside them.
+        const int n = std::min(
+            own(b, row, col, s, side) + own(b, row, col, {-s.dr, -s.dc}, side), kComplete);
+        if (n > best && lineOpen(b, row, col, s, side))
+            best = n;
     }
     return best;
 }
