@@ -113,6 +113,31 @@ TEST_F(TwoPlayerGame, NumberModesDrawTheirBands)
     }
 }
 
+TEST(TwoPlayerMenu, TheBoardPicturesOpenModesZeroToTwoAtTheChosenLevel)
+{
+    const int lows[] = {201, 250, 211}; // level 2: modes 0, 1 and 2
+    for (int i = 0; i < 3; ++i) {
+        Driver d;
+        d.toMainMenu();
+        d.newPupil();
+        d.click("Command9");
+        d.click("fourlev", 1);
+        d.click("fourinrow", i);
+        EXPECT_EQ(d.frontName(), "twoplayerfourinarow");
+        EXPECT_EQ(d.progress().FourRowOptionA.whole(), i);
+        d.click("Command1");
+        d.typeEnter("player1", "Ann");
+        d.typeEnter("player2", "Ben");
+        int lowest = 1000;
+        for (int k = kFirst; k <= kLast; ++k)
+            lowest = std::min(lowest, number(d, "xvalue", k));
+        EXPECT_GE(lowest, lows[i]);
+        EXPECT_LT(lowest, lows[i] + 50);
+        d.click("exit");
+        EXPECT_EQ(d.frontName(), "pairmenu");
+    }
+}
+
 TEST_F(TwoPlayerGame, TurnsPassOnRightCellsWrongCellsAndPass)
 {
     start();
