@@ -40,8 +40,8 @@ int score(const FourRowBoard &b, int row, int col, Owner side)
     for (const Step s : kDirections) {
         // The pieces are counted first: a direction that cannot raise the score needs no room
         // count, and most directions of most cells have no piece beside them.
-        const int n = std::min(
-            own(b, row, col, s, side) + own(b, row, col, {-s.dr, -s.dc}, side), kComplete);
+        const int n =
+            std::min(own(b, row, col, s, side) + own(b, row, col, {-s.dr, -s.dc}, side), kComplete);
         if (n > best && lineOpen(b, row, col, s, side))
             best = n;
     }

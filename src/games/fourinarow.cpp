@@ -20,7 +20,9 @@ FourInARow::FourInARow(App &app)
     const int y = kStripTop, h = kStripHeight;
     Control &start = strip(button("Command1", "Start", kNumberMargin, y, kNumberWidth, h), 20);
     start.backColor = rgb(120, 220, 120);
-    strip(button("pass", "PASS", kBoardLeft, y, 1500, h), 20).backColor = rgb(255, 230, 120);
+    Control &pass = strip(button("pass", "PASS", kBoardLeft, y, 1500, h), 20);
+    pass.backColor = rgb(255, 230, 120);
+    pass.enabled = false;
     strip(label("timelabel", "Time", 4500, y + 150, 1000, 600), 18).align = Align::Right;
     Control &time = strip(label("time", "", 5600, y, 1000, h), 26);
     time.border = true;
@@ -47,6 +49,13 @@ void FourInARow::onOpened()
         level_ = stored;
     showLevel();
     say("Press Start to begin.");
+}
+
+void FourInARow::setState(State state)
+{
+    state_ = state;
+    // PASS only while the pupil may move, so a greyed button shows whose turn it is.
+    setEnabled("pass", state == State::PupilTurn);
 }
 
 std::string FourInARow::choosePrompt() const
@@ -80,7 +89,7 @@ void FourInARow::newGame()
 
 void FourInARow::pupilTurn()
 {
-    state_ = State::PupilTurn;
+    setState(State::PupilTurn);
     secondsLeft_ = kTurnSeconds;
     caption("time") = std::to_string(secondsLeft_);
     setTimer("Timer2", true);
@@ -90,7 +99,7 @@ void FourInARow::pupilTurn()
 
 void FourInARow::computerTurn()
 {
-    state_ = State::Thinking;
+    setState(State::Thinking);
     clearPicks();
     setTimer("Timer2", false);
     setTimer("Timer1", true);
@@ -140,7 +149,7 @@ void FourInARow::rightCell(Cell cell)
 {
     setTimer("Timer2", false);
     if (claimCell(cell, Owner::Red)) {
-        state_ = State::Over;
+        setState(State::Over);
         if (askYesNo("Well done, you have won! Do you want to try the next level?") != kYes) {
             leave();
             return;
@@ -164,7 +173,7 @@ void FourInARow::wrongCell()
 
 void FourInARow::gameOver(const std::string &question)
 {
-    state_ = State::Over;
+    setState(State::Over);
     setTimer("Timer1", false);
     setTimer("Timer2", false);
     if (askYesNo(question) != kYes) {
@@ -187,7 +196,7 @@ void FourInARow::levelUp()
 
 void FourInARow::leave()
 {
-    state_ = State::Over;
+    setState(State::Over);
     setTimer("Timer1", false);
     setTimer("Timer2", false);
     handOver("addmenu");

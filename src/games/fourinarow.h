@@ -32,6 +32,7 @@ protected:
 private:
     enum class State { Waiting, PupilTurn, Thinking, Over };
 
+    void setState(State state);
     void newGame();
     void pupilTurn();
     void computerTurn();

@@ -47,7 +47,9 @@ TwoPlayerFourInARow::TwoPlayerFourInARow(App &app)
         shown.visible = false;
     }
     const int passLeft = kBoardLeft + 2 * (nameWidth + gap);
-    strip(button("pass", "PASS", passLeft, y, 1400, h), 20).backColor = rgb(255, 230, 120);
+    Control &pass = strip(button("pass", "PASS", passLeft, y, 1400, h), 20);
+    pass.backColor = rgb(255, 230, 120);
+    pass.enabled = false;
     const int exitLeft = kWidth - kNumberMargin - kNumberWidth;
     strip(button("exit", "Exit", exitLeft, y, kNumberWidth, h), 20).backColor = rgb(250, 150, 150);
     setFocus("Command1");
@@ -56,6 +58,12 @@ TwoPlayerFourInARow::TwoPlayerFourInARow(App &app)
 void TwoPlayerFourInARow::onOpened()
 {
     say("Press Start to begin.");
+}
+
+void TwoPlayerFourInARow::setState(State state)
+{
+    state_ = state;
+    setEnabled("pass", state == State::Playing);
 }
 
 std::string TwoPlayerFourInARow::choosePrompt() const
@@ -71,14 +79,14 @@ void TwoPlayerFourInARow::onCommand(const std::string &name)
     } else if (name == "pass" && state_ == State::Playing) {
         handOverTurn();
     } else if (name == "exit") {
-        state_ = State::Over;
+        setState(State::Over);
         handOver("pairmenu");
     }
 }
 
 void TwoPlayerFourInARow::askName(int player)
 {
-    state_ = player == 1 ? State::Naming1 : State::Naming2;
+    setState(player == 1 ? State::Naming1 : State::Naming2);
     const std::string n = std::to_string(player);
     say("Player " + n + ", please enter your name.");
     Control &box = ctl("player" + n);
@@ -128,7 +136,7 @@ void TwoPlayerFourInARow::newGame()
     const auto numbers = twoPlayerNumbers([this] { return draw(); }, mode, level);
     // Any other mode leaves the numbers undrawn: every one of them is 0.
     newBoard(numbers ? *numbers : std::array<Numbers, 2>{});
-    state_ = State::Playing;
+    setState(State::Playing);
     turn_ = nextStarter_;
     nextStarter_ = 3 - nextStarter_;
     showTurn();
@@ -154,7 +162,7 @@ void TwoPlayerFourInARow::rightCell(Cell cell)
         handOverTurn();
         return;
     }
-    state_ = State::Over;
+    setState(State::Over);
     const std::string question = four ? name(turn_) + " has won! Do you want another game?"
                                       : "The game is drawn. Do you want another go?";
     if (askYesNo(question) == kYes)

@@ -27,6 +27,7 @@ protected:
 private:
     enum class State { Waiting, Naming1, Naming2, Playing, Over };
 
+    void setState(State state);
     void askName(int player);
     void nameEntered(int player);
     void newGame();
