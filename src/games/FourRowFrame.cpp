@@ -2,6 +2,9 @@
 
 #include "activity/Ask.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace nb {
 
 using namespace fourrow;
@@ -12,7 +15,8 @@ constexpr std::uint32_t kLeftColor = rgb(190, 220, 255);
 constexpr std::uint32_t kRightColor = rgb(255, 214, 170);
 constexpr std::uint32_t kChosenColor = rgb(255, 225, 0);
 constexpr std::uint32_t kInk = rgb(30, 40, 110);
-constexpr std::uint32_t kWinLine = rgb(20, 30, 140);
+constexpr std::uint32_t kWinMark = rgb(20, 30, 140);
+constexpr int kMarkOverlap = 30; // twips a mark reaches beyond its cell
 
 int cellLeft(int col)
 {
@@ -74,10 +78,15 @@ void FourRowFrame::buildBoard()
                 label(name, "0", 0, 0, 10, 10, cellId(r, c)).visible = false;
     label("swapper", "", 0, 0, 10, 10).visible = false;
 
-    Control &win = line("winline", 0, 0, 0, 0, kWinLine);
-    win.lineWidth = 150;
-    win.visible = false;
-    win.mouseTransparent = true;
+    // Frames that mark the cells of a winning line (up to six when a gap is filled), drawn over
+    // the cells so the numbers stay readable.
+    for (int k = 0; k < kSide; ++k) {
+        Control &mark = shape("winmark", ShapeKind::RoundedRectangle, kDefaultColor, kWinMark, 0, 0,
+                              kCellSize + 2 * kMarkOverlap, kCellSize + 2 * kMarkOverlap, k);
+        mark.lineWidth = 110;
+        mark.visible = false;
+        mark.mouseTransparent = true;
+    }
 }
 
 Control &FourRowFrame::strip(Control &c, double points)
@@ -103,7 +112,8 @@ void FourRowFrame::newBoard(const std::array<Numbers, 2> &numbers)
             cell.backColor = kFreeCell;
             cell.foreColor = kInk;
         }
-    setVisible("winline", false);
+    for (int k = 0; k < kSide; ++k)
+        setVisible("winmark", false, k);
     clearPicks();
     showStatus();
 }
@@ -115,16 +125,24 @@ bool FourRowFrame::claimCell(Cell cell, Owner who)
     c.backColor = who == Owner::Red ? kRedCell : kGreenCell;
     c.foreColor = who == Owner::Red ? colors::white : colors::black;
     showStatus();
-    if (const auto ends = board_.fourThrough(cell.row, cell.col); four && ends) {
-        Control &w = ctl("winline");
-        const int half = kCellSize / 2;
-        w.left = cellLeft((*ends)[0].col) + half;
-        w.top = cellTop((*ends)[0].row) + half;
-        w.x2 = cellLeft((*ends)[1].col) + half;
-        w.y2 = cellTop((*ends)[1].row) + half;
-        w.visible = true;
-    }
+    if (const auto ends = board_.fourThrough(cell.row, cell.col); four && ends)
+        markLine((*ends)[0], (*ends)[1]);
     return four;
+}
+
+void FourRowFrame::markLine(Cell from, Cell to)
+{
+    const int dr = (to.row > from.row) - (to.row < from.row);
+    const int dc = (to.col > from.col) - (to.col < from.col);
+    const int length = std::max(std::abs(to.row - from.row), std::abs(to.col - from.col)) + 1;
+    for (int k = 0; k < kSide; ++k) {
+        Control &mark = ctl("winmark", k);
+        mark.visible = k < length;
+        if (mark.visible) {
+            mark.left = cellLeft(from.col + k * dc) - kMarkOverlap;
+            mark.top = cellTop(from.row + k * dr) - kMarkOverlap;
+        }
+    }
 }
 
 void FourRowFrame::showStatus()

@@ -2,7 +2,7 @@
 // The screen frame both four-in-a-row games share: the six left numbers (`xvalue`) and six right
 // numbers (`expression`) as big buttons, the 6 x 6 board of sums (`Label1`, indexed 100 x row +
 // column), the hidden status labels the board model writes its codes into, the message line and
-// the line that marks a winning four. A player chooses a number on each side (in either order; a
+// the frames that mark a winning four. A player chooses a number on each side (in either order; a
 // second click on a side changes the choice), then clicks a cell holding their sum.
 #include "core/Screen.h"
 #include "games/FourRowBoard.h"
@@ -64,6 +64,7 @@ private:
     void pickNumber(const std::string &side, int index);
     void clickCell(int row, int col);
     void showPicks();
+    void markLine(fourrow::Cell from, fourrow::Cell to);
 
     int leftPick_ = 0, rightPick_ = 0; // chosen row and column number (4..9), 0 when none
     bool focusOnLeft_ = false;

@@ -138,9 +138,9 @@ void FourInARow::computerMove()
     const bool four = claimCell(move.cell, Owner::Green);
     platform().beep();
     if (four)
-        gameOver("The computer has won. Do you want another go?");
+        gameOver("The computer has won.", "The computer has won. Do you want another go?");
     else if (board_.full())
-        gameOver("The game is drawn. Do you want another go?");
+        gameOver("The game is drawn.", "The game is drawn. Do you want another go?");
     else
         pupilTurn();
 }
@@ -150,6 +150,7 @@ void FourInARow::rightCell(Cell cell)
     setTimer("Timer2", false);
     if (claimCell(cell, Owner::Red)) {
         setState(State::Over);
+        say("Well done, you have won!");
         if (askYesNo("Well done, you have won! Do you want to try the next level?") != kYes) {
             leave();
             return;
@@ -158,7 +159,7 @@ void FourInARow::rightCell(Cell cell)
         newGame();
         pupilTurn();
     } else if (board_.full()) {
-        gameOver("The game is drawn. Do you want another go?");
+        gameOver("The game is drawn.", "The game is drawn. Do you want another go?");
     } else {
         computerTurn();
     }
@@ -171,9 +172,10 @@ void FourInARow::wrongCell()
     computerTurn();
 }
 
-void FourInARow::gameOver(const std::string &question)
+void FourInARow::gameOver(const std::string &result, const std::string &question)
 {
     setState(State::Over);
+    say(result);
     setTimer("Timer1", false);
     setTimer("Timer2", false);
     if (askYesNo(question) != kYes) {

@@ -38,7 +38,8 @@ private:
     void computerTurn();
     void computerMove();
     void tickClock();
-    void gameOver(const std::string &question);
+    // The result stays on the message line behind the question.
+    void gameOver(const std::string &result, const std::string &question);
     void levelUp();
     void showLevel();
     void leave();

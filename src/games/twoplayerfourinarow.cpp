@@ -163,6 +163,7 @@ void TwoPlayerFourInARow::rightCell(Cell cell)
         return;
     }
     setState(State::Over);
+    say(four ? name(turn_) + " has won!" : "The game is drawn.");
     const std::string question = four ? name(turn_) + " has won! Do you want another game?"
                                       : "The game is drawn. Do you want another go?";
     if (askYesNo(question) == kYes)

@@ -24,11 +24,15 @@ public:
     FourRowBoard &rig() { return board_; }
     void onClosing() override
     {
-        lineAtClose = ctl("winline").visible;
+        marksAtClose = 0;
+        for (int k = 0; k < kSide; ++k)
+            marksAtClose += ctl("winmark", k).visible;
+        textAtClose = ctl("text1").caption;
         colorAtClose = ctl("Label1", watched).backColor;
     }
     int watched = 404;
-    static inline bool lineAtClose = false;
+    static inline int marksAtClose = 0;
+    static inline std::string textAtClose;
     static inline std::uint32_t colorAtClose = 0;
 };
 
@@ -250,7 +254,7 @@ TEST_F(FourInARowGame, WinningMovesUpALevelAndKeepsTheHighestUpToNine)
         EXPECT_EQ(claimed(), 0);
         EXPECT_EQ(d.caption("text1"), kChoose);
         EXPECT_TRUE(d.timerOn("Timer2"));
-        EXPECT_FALSE(d.visible("winline"));
+        EXPECT_FALSE(d.visible("winmark", 0));
         const double low = c.nextLevel < 10 ? 50 * c.nextLevel + 1 : 450;
         EXPECT_GE(readNumber(d.caption("xvalue", 4)), low);
         EXPECT_LE(readNumber(d.caption("xvalue", 4)), low + 48);
@@ -267,33 +271,38 @@ TEST_F(FourInARowGame, EveryEndOfGameAsksAndNoGoesBackToTheMenu)
         bool pupilMoves; // else the pupil passes and the computer moves
         Cell cell;
         std::string question;
-        bool line;
+        int marks;
+        std::string result;
     } cases[] = {
         {"pupil wins",
          {"RRR...", "......", "......", "GG....", "......", "G....."},
          true,
          {4, 7},
          "Well done, you have won! Do you want to try the next level?",
-         true},
+         4,
+         "Well done, you have won!"},
         // The computer completes its own three before blocking the pupil's.
         {"computer wins",
          {"RRR...", "......", "GGG...", "......", "R.....", "......"},
          false,
          {6, 7},
          "The computer has won. Do you want another go?",
-         true},
+         4,
+         "The computer has won."},
         {"pupil fills the board",
          {"RRGGRR", "RRGGRR", "GGRRGG", "RRGGRR", "GGRRGG", "GG.RGG"},
          true,
          {9, 6},
          "The game is drawn. Do you want another go?",
-         false},
+         0,
+         "The game is drawn."},
         {"computer fills the board",
          {"RRGGRR", "RRGGRR", "GGRRGG", "RRGGRR", "GGRRGG", "GGRRG."},
          false,
          {9, 9},
          "The game is drawn. Do you want another go?",
-         false},
+         0,
+         "The game is drawn."},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
@@ -316,8 +325,10 @@ TEST_F(FourInARowGame, EveryEndOfGameAsksAndNoGoesBackToTheMenu)
             if (reply == kNo) {
                 EXPECT_EQ(drv.frontName(), "addmenu");
                 EXPECT_FALSE(drv.isOpen("fourinarow"));
-                // The four was marked before the question; the last cell has its colour.
-                EXPECT_EQ(RiggedFourInARow::lineAtClose, c.line);
+                // The four was marked and the result shown before the question; the last cell has
+                // its colour.
+                EXPECT_EQ(RiggedFourInARow::marksAtClose, c.marks);
+                EXPECT_EQ(RiggedFourInARow::textAtClose, c.result);
                 EXPECT_EQ(RiggedFourInARow::colorAtClose, c.pupilMoves ? 255u : 65280u);
             } else {
                 EXPECT_EQ(drv.frontName(), "fourinarow");
