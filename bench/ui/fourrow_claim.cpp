@@ -21,6 +21,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <vector>
 
 namespace {
@@ -57,7 +58,9 @@ int main(int argc, char *argv[])
     const int claims = argc > 1 ? std::max(100, std::atoi(argv[1])) : 2000;
     const int width = argc > 3 ? std::atoi(argv[2]) : 1920;
     const int height = argc > 3 ? std::atoi(argv[3]) : 1080;
-    const char *picture = argc > 4 ? argv[4] : nullptr;
+    const char *picture = argc > 4 && argv[4][0] ? argv[4] : nullptr;
+    const std::string screenName = argc > 5 ? argv[5] : "fourinarow";
+    const bool twoPlayers = screenName == "twoplayerfourinarow";
 
     nb::ScreenRegistry registry;
     nb::registerAllScreens(registry);
@@ -79,13 +82,19 @@ int main(int argc, char *argv[])
     platform.setWindow(&window);
     window.resize(width, height);
     window.show();
-    if (!window.start("fourinarow")) {
-        std::fprintf(stderr, "the four-in-a-row screen could not be opened\n");
+    if (!window.start(screenName)) {
+        std::fprintf(stderr, "the screen %s could not be opened\n", screenName.c_str());
         return 1;
     }
     nb::Screen &screen = *app.front();
     nb::ui::ScreenView *view = window.frontView();
     app.click(screen, "Command1");
+    if (twoPlayers) {
+        for (const char *box : {"player1", "player2"}) {
+            screen.find(box)->caption = box[6] == '1' ? "Ann" : "Ben";
+            app.keyPress(screen, box, -1, 13);
+        }
+    }
     window.syncAll();
     view->repaint();
     QApplication::processEvents();
@@ -107,9 +116,10 @@ int main(int argc, char *argv[])
         view->repaint();
         cpu.push_back(cpuMs() - c0);
         wall.push_back(std::chrono::duration<double, std::milli>(Clock::now() - t0).count());
-        app.timerTick(screen, "Timer1"); // the computer's answer
+        if (!twoPlayers)
+            app.timerTick(screen, "Timer1"); // the computer's answer
         window.syncAll();
-        if (picture && i == 5) {
+        if (picture && i == 2) {
             chooseForFirstFreeCell(app, screen); // two numbers chosen, as a pupil would
             window.syncAll();
             view->repaint();
@@ -123,7 +133,7 @@ int main(int argc, char *argv[])
         std::printf("  %-5s p50 %.3f ms  p99 %.3f ms  max %.3f ms\n", what, at(0.50), at(0.99),
                     ms.back());
     };
-    std::printf("fourinarow claim + full repaint, %dx%d, %d claims:\n", view->width(),
+    std::printf("%s claim + full repaint, %dx%d, %d claims:\n", screenName.c_str(), view->width(),
                 view->height(), claims);
     report("wall", wall);
     report("cpu", cpu);

@@ -9,6 +9,9 @@ using namespace fourrow;
 
 namespace {
 
+constexpr std::uint32_t kFadedRed = rgb(255, 205, 205);
+constexpr std::uint32_t kFadedGreen = rgb(205, 250, 205);
+
 // Letters as the player sees them: one for each UTF-8 character.
 std::size_t letters(const std::string &text)
 {
@@ -32,7 +35,7 @@ TwoPlayerFourInARow::TwoPlayerFourInARow(App &app)
     Control &start = strip(button("Command1", "Start", kNumberMargin, y, kNumberWidth, h), 20);
     start.backColor = rgb(120, 220, 120);
     // Each player's name box and, once the name is in, the name in the player's colour.
-    const int nameWidth = 2500, gap = 200;
+    const int nameWidth = 2200, gap = 150;
     for (int p = 1; p <= 2; ++p) {
         const int left = kBoardLeft + (p - 1) * (nameWidth + gap);
         const std::string n = std::to_string(p);
@@ -40,7 +43,7 @@ TwoPlayerFourInARow::TwoPlayerFourInARow(App &app)
             textBox("player" + n, "Player " + n + " name", left, y + 100, nameWidth, h - 200);
         box.font.points = 16;
         box.visible = false;
-        Control &shown = strip(label("p" + n, "", left, y, nameWidth, h), 18);
+        Control &shown = strip(label("p" + n, "", left, y + 100, nameWidth, h - 200), 18);
         shown.border = true;
         shown.backColor = p == 1 ? kRedCell : kGreenCell;
         shown.foreColor = p == 1 ? colors::white : colors::black;
@@ -145,6 +148,11 @@ void TwoPlayerFourInARow::newGame()
 void TwoPlayerFourInARow::showTurn()
 {
     say(name(turn_) + " choose your two numbers.");
+    // The name of the player to move stands in full colour, the other's faded.
+    Control &one = ctl("p1"), &two = ctl("p2");
+    one.backColor = turn_ == 1 ? kRedCell : kFadedRed;
+    one.foreColor = turn_ == 1 ? colors::white : colors::black;
+    two.backColor = turn_ == 2 ? kGreenCell : kFadedGreen;
     parkFocus();
 }
 

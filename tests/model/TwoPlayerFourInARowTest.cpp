@@ -72,8 +72,9 @@ TEST_F(TwoPlayerGame, NamesMustBeShorterThanFifteenLetters)
     d.typeEnter("player2", "Benjamin Smith"); // 14 letters
     EXPECT_EQ(d.caption("p2"), "Benjamin Smith");
     EXPECT_EQ(d.caption("text1"), utf8(0xC9) + "lodie Martin choose your two numbers.");
+    // Player 1 (red) starts; the waiting player's name is faded.
     EXPECT_EQ(d.backColor("p1"), 255u);
-    EXPECT_EQ(d.backColor("p2"), 65280u);
+    EXPECT_NE(d.backColor("p2"), 65280u);
     EXPECT_EQ(d.platform.messages().size(), 1u);
     // Clicks before or during naming claim nothing.
     EXPECT_EQ(screen().board().claimed(), 0);
@@ -146,6 +147,8 @@ TEST_F(TwoPlayerGame, TurnsPassOnRightCellsWrongCellsAndPass)
     EXPECT_EQ(d.caption("playerstatus", first), "4");
     EXPECT_EQ(d.caption("compstatus", first), "5");
     EXPECT_EQ(d.caption("text1"), "Ben choose your two numbers.");
+    EXPECT_NE(d.backColor("p1"), 255u);
+    EXPECT_EQ(d.backColor("p2"), 65280u);
 
     const int second = play(true, 9, 9);
     EXPECT_EQ(d.backColor("Label1", second), 65280u);
