@@ -11,23 +11,28 @@ namespace {
 
 using namespace nb::fourrow;
 
-// Positions with `claims` cells taken in turn at random, none holding four.
+// Positions from real games: a pupil claiming at random against the computer's choice, taken
+// after `claims` cells while the game is still on.
 std::vector<FourRowBoard> positions(int claims)
 {
     nb::UniformRandom rnd(17);
+    const Draw draw = [&rnd] { return rnd.next(); };
     std::vector<FourRowBoard> out;
     while (out.size() < 256) {
         FourRowBoard b;
-        bool four = false;
-        for (int k = 0; k < claims && !four; ++k) {
-            int r, c;
-            do {
-                r = kFirst + int(rnd.next() * kSide);
-                c = kFirst + int(rnd.next() * kSide);
-            } while (!b.isFree(r, c));
-            four = b.claim(r, c, k % 2 ? Owner::Green : Owner::Red);
+        bool over = false;
+        while (!over && b.claimed() < claims) {
+            const bool pupil = b.claimed() % 2 == 0;
+            Cell c;
+            if (pupil)
+                do
+                    c = {kFirst + int(rnd.next() * kSide), kFirst + int(rnd.next() * kSide)};
+                while (!b.isFree(c.row, c.col));
+            else
+                c = chooseMove(b, draw).cell;
+            over = b.claim(c.row, c.col, pupil ? Owner::Red : Owner::Green);
         }
-        if (!four)
+        if (!over)
             out.push_back(b);
     }
     return out;
