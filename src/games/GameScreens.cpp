@@ -1,6 +1,7 @@
+#include "games/GameScreens.h"
+
 #include "games/fourinarow.h"
 #include "games/twoplayerfourinarow.h"
-#include "shell/AllScreens.h"
 
 namespace nb {
 
