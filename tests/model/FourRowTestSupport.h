@@ -1,39 +1,33 @@
 #pragma once
-// Four-in-a-row boards written as six rows of text: 'R' red (the pupil or player 1), 'G' green
-// (the computer or player 2), '.' free. Row 4 first, column 4 leftmost.
+// Four-in-a-row boards written as text, row 4 first and column 4 leftmost, rows separated by '/':
+// 'R' red (the pupil or player 1), 'G' green (the computer or player 2), '.' free. Rows left out
+// at the end are free. And a claim made through a screen as a player would.
 #include "core/NumberText.h"
 #include "games/FourRowBoard.h"
 #include "support/Driver.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <string>
+#include <string_view>
 
 namespace nb::test {
 
-using Rows = std::array<std::string, fourrow::kSide>;
-
-inline void lay(fourrow::FourRowBoard &b, const Rows &rows)
+inline void lay(fourrow::FourRowBoard &b, std::string_view rows)
 {
-    for (int r = fourrow::kFirst; r <= fourrow::kLast; ++r)
-        for (int c = fourrow::kFirst; c <= fourrow::kLast; ++c) {
-            const char ch =
-                rows[std::size_t(r - fourrow::kFirst)][std::size_t(c - fourrow::kFirst)];
-            if (ch != '.')
-                b.claim(r, c, ch == 'R' ? fourrow::Owner::Red : fourrow::Owner::Green);
-        }
-}
-
-inline fourrow::FourRowBoard boardOf(const Rows &rows)
-{
-    fourrow::FourRowBoard b;
-    lay(b, rows);
-    return b;
+    int k = 0;
+    for (const char ch : rows) {
+        if (ch == '/')
+            continue;
+        const int r = fourrow::kFirst + k / fourrow::kSide,
+                  c = fourrow::kFirst + k % fourrow::kSide;
+        if (ch != '.')
+            b.claim(r, c, ch == 'R' ? fourrow::Owner::Red : fourrow::Owner::Green);
+        ++k;
+    }
 }
 
 // A full board with no four in a row anywhere, red and green 18 cells each.
-inline const Rows kNoFour = {"RRGGRR", "RRGGRR", "GGRRGG", "RRGGRR", "GGRRGG", "GGRRGG"};
+inline constexpr std::string_view kNoFour = "RRGGRR/RRGGRR/GGRRGG/RRGGRR/GGRRGG/GGRRGG";
 
 inline int number(Driver &d, const char *side, int k)
 {
@@ -53,6 +47,16 @@ inline void claim(Driver &d, int row, int col)
                 return;
             }
     FAIL() << "no pair makes the sum in " << row << "," << col;
+}
+
+// A free cell that does not hold the sum of left number l and right number r.
+inline int wrongCell(const fourrow::FourRowBoard &b, int l, int r)
+{
+    for (int row = fourrow::kFirst; row <= fourrow::kLast; ++row)
+        for (int col = fourrow::kFirst; col <= fourrow::kLast; ++col)
+            if (b.isFree(row, col) && b.sum(row, col) != b.left(l) + b.right(r))
+                return fourrow::cellId(row, col);
+    return 0;
 }
 
 } // namespace nb::test

@@ -1,10 +1,10 @@
 // The written-method screens as a pupil meets them: the answer-box key filter, the shared frame
 // (stopwatch, penalties, praise, the closing question) and each screen's step machine, with the
 // digits of every question scripted.
-#include "core/PupilProgress.h"
-#include "support/Driver.h"
 #include "activity/AnswerBoxFilter.h"
 #include "activity/PraiseList.h"
+#include "core/PupilProgress.h"
+#include "support/Driver.h"
 
 #include <gtest/gtest.h>
 
