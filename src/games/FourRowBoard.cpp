@@ -20,6 +20,21 @@ int drawLine(const Draw &draw)
     return whole(draw(), kSide, kFirst);
 }
 
+// Six different numbers, each made by `make` from the draws it takes; a number equal to one
+// already on the side is made again.
+Numbers drawDistinct(const Draw &draw, const std::function<int(const Draw &)> &make)
+{
+    Numbers out{};
+    for (std::size_t i = 0; i < out.size(); ++i) {
+        int v = make(draw);
+        while (std::find(out.begin(), out.begin() + std::ptrdiff_t(i), v) !=
+               out.begin() + std::ptrdiff_t(i))
+            v = make(draw);
+        out[i] = v;
+    }
+    return out;
+}
+
 } // namespace
 
 void FourRowBoard::setUp(const Numbers &left, const Numbers &right, const Draw &draw)
@@ -36,11 +51,6 @@ void FourRowBoard::setUp(const Numbers &left, const Numbers &right, const Draw &
         setSum(r1, c1, sum(r2, c2));
         setSum(r2, c2, held);
     }
-    clearClaims();
-}
-
-void FourRowBoard::clearClaims()
-{
     owner_ = {};
     redStatus_ = {};
     greenStatus_ = {};
@@ -81,19 +91,6 @@ std::optional<std::array<Cell, 2>> FourRowBoard::fourThrough(int row, int col) c
         }
     }
     return best;
-}
-
-Numbers drawDistinct(const Draw &draw, const std::function<int(const Draw &)> &make)
-{
-    Numbers out{};
-    for (std::size_t i = 0; i < out.size(); ++i) {
-        int v = make(draw);
-        while (std::find(out.begin(), out.begin() + std::ptrdiff_t(i), v) !=
-               out.begin() + std::ptrdiff_t(i))
-            v = make(draw);
-        out[i] = v;
-    }
-    return out;
 }
 
 std::array<Numbers, 2> computerGameNumbers(const Draw &draw, int level)

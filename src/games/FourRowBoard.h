@@ -68,8 +68,6 @@ public:
     // A fresh board: the numbers given, the cells as their addition table scrambled by 60
     // exchanges of two cells drawn at random (row, column, row, column per exchange), no claims.
     void setUp(const Numbers &left, const Numbers &right, const Draw &draw);
-    // Forget every claim and status code (the numbers and cells stay).
-    void clearClaims();
 
     int left(int row) const { return left_[std::size_t(row - kFirst)]; }
     int right(int col) const { return right_[std::size_t(col - kFirst)]; }
@@ -77,12 +75,6 @@ public:
     {
         return sums_[std::size_t(row - kFirst)][std::size_t(col - kFirst)];
     }
-    // Tests and benchmarks lay out a board directly.
-    void setSum(int row, int col, int value)
-    {
-        sums_[std::size_t(row - kFirst)][std::size_t(col - kFirst)] = value;
-    }
-
     // Any grid cell, margin included. Every line walk stays inside the grid; checked builds
     // prove it on each read.
     Owner owner(int row, int col) const
@@ -120,6 +112,11 @@ public:
     }
 
 private:
+    void setSum(int row, int col, int value)
+    {
+        sums_[std::size_t(row - kFirst)][std::size_t(col - kFirst)] = value;
+    }
+
     Numbers left_{}, right_{};
     std::array<std::array<int, kSide>, kSide> sums_{};
     // A plain array: every line walk reads it, and it is copied whole with the board.
@@ -130,10 +127,6 @@ private:
     Grid<std::int8_t> redStatus_{}, greenStatus_{}, freeScore_{};
     int claimed_ = 0;
 };
-
-// Six different numbers, each made by `make` from the draws it takes; a number equal to one
-// already on the side is made again.
-Numbers drawDistinct(const Draw &draw, const std::function<int(const Draw &)> &make);
 
 // The numbers of the game against the computer at a level: 50L + 1 to 50L + 49 below level 10,
 // 450 to 498 from level 10 on. Left side first, then right.
