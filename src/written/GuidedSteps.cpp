@@ -17,6 +17,10 @@ std::string placePrompt(int place)
 void GuidedSteps::beginSteps(std::vector<GuidedStep> steps)
 {
     clearPage();
+    // What the last question wrote on the page goes.
+    for (const GuidedStep &step : steps_)
+        for (const std::string &name : step.reveal)
+            setVisible(name, false);
     steps_ = std::move(steps);
     current_ = 0;
     for (const std::string &box : answerBoxes())
