@@ -62,3 +62,28 @@ inline void fillSteps(Driver &d, std::size_t count = std::size_t(-1))
 }
 
 } // namespace nb::test
+
+namespace nb::test {
+
+// The draws of one question of the column addition and subtraction screens.
+inline std::vector<double> columnAddDraws(int a, int b, int c)
+{
+    std::vector<double> out;
+    for (int n : {a, b, c})
+        out.insert(out.end(), {drawFor(n / 100, 1, 9), digitDraw(n / 10 % 10), digitDraw(n % 10)});
+    return out;
+}
+inline std::vector<double> columnSubDraws(int top, int bottom)
+{
+    return {drawFor(top / 100, 1, 9),    digitDraw(top / 10 % 10),
+            digitDraw(top % 10),         drawFor(bottom / 100, 0, top / 100),
+            digitDraw(bottom / 10 % 10), digitDraw(bottom % 10)};
+}
+
+inline void queueDraws(Driver &d, const std::vector<double> &draws)
+{
+    for (double r : draws)
+        d.platform.queueDraw(r);
+}
+
+} // namespace nb::test
