@@ -119,16 +119,16 @@ ShortDivision::ShortDivision(App &app, Value PupilProgress::*best, DivisionEndin
     digitLabel("text2", kDivisorColumn, kDividendRow);
     for (int place = 0; place < places; ++place) {
         Control &c = digitLabel(kDividendLabels[place], columnOf(place), kDividendRow);
-        c.left += 160;
-        c.width -= 160;
+        c.left += 220;
+        c.width -= 220;
         if (place >= 3)
             c.caption = "0";
         if (place > 0) {
             Control &box = answerBox(kCarryBoxes[place], "carried into the " + placeName(2 - place),
                                      columnOf(place), kDividendRow);
-            box.left = cellX(columnOf(place)) + 30;
+            box.left = cellX(columnOf(place)) + 20;
             box.top = cellY(kDividendRow) + 60;
-            box.width = box.height = 400;
+            box.width = box.height = 370;
             box.font.points = 16;
         }
     }
