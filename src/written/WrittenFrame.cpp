@@ -124,7 +124,7 @@ void WrittenFrame::headings(int firstColumn, int row, std::initializer_list<cons
 Control &WrittenFrame::answerBox(std::string name, std::string spoken, int column, int row)
 {
     constexpr int inset = 70;
-    boxes_.push_back(name);
+    boxes_.add(name);
     Control &c = textBox(std::move(name), std::move(spoken), cellX(column) + inset,
                          cellY(row) + inset, kCell - 2 * inset, kCell - 2 * inset);
     c.font.points = 32;
@@ -178,7 +178,7 @@ Control &WrittenFrame::sideHint(std::string text)
 
 bool WrittenFrame::isAnswerBox(std::string_view name) const
 {
-    return std::find(boxes_.begin(), boxes_.end(), name) != boxes_.end();
+    return boxes_.contains(name);
 }
 
 void WrittenFrame::onOpened()
@@ -208,7 +208,7 @@ void WrittenFrame::onTimer(const std::string &name)
 
 void WrittenFrame::onKeyPress(const std::string &name, int index, int &key)
 {
-    if (index != -1 || !isAnswerBox(name))
+    if (!boxes_.contains(name, index))
         return;
     Control &box = ctl(name);
     if (const auto value = filterAnswerKey(box.caption, keyReference(name), key))
@@ -259,8 +259,7 @@ void WrittenFrame::clearPage()
 {
     questionComplete_ = false;
     setVisible("Command10", false);
-    for (const std::string &box : boxes_)
-        caption(box).clear();
+    boxes_.clear(*this);
     setPrompt("");
 }
 

@@ -1,4 +1,5 @@
-#include "shell/AllScreens.h"
+#include "written/WrittenScreens.h"
+
 #include "written/ADD333.h"
 #include "written/ADD333b.h"
 #include "written/div1into3dec.h"
