@@ -23,8 +23,8 @@ void GuidedSteps::beginSteps(std::vector<GuidedStep> steps)
             setVisible(name, false);
     steps_ = std::move(steps);
     current_ = 0;
-    for (const std::string &box : answerBoxes())
-        setVisible(box, false);
+    for (const auto &[box, index] : answerBoxes())
+        setVisible(box, false, index);
     setRevealed(0);
     showStep();
 }

@@ -100,7 +100,7 @@ protected:
     Value &bestTime() { return progress().*best_; }
     const TimedRun &run() const { return run_; }
     bool isAnswerBox(std::string_view name) const;
-    const std::vector<std::string> &answerBoxes() const { return boxes_; }
+    const std::vector<std::pair<std::string, int>> &answerBoxes() const { return boxes_.all(); }
 
     bool questionComplete_ = false;
 
