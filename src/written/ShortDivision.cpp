@@ -81,19 +81,19 @@ std::vector<GuidedStep> shortDivisionSteps(int dividend, int divisor, DivisionEn
         break;
     case DivisionEnding::Fraction: {
         const std::string hint = "The remainder goes over the divisor.";
-        steps.push_back({"Text31", carry, "Enter the numerator (the remainder).", hint, {"Line5"}});
-        steps.push_back({"Text32", divisor, "Enter the denominator (the divisor).", hint, {}});
+        steps.push_back({"Text31", carry, "Enter the remainder on top.", hint, {"Line5"}});
+        steps.push_back({"Text32", divisor, "Enter the divisor underneath.", hint, {}});
         const int g = std::gcd(carry, divisor);
         if (g > 1) {
             const std::string simplest = "Divide the top and the bottom by the same number.";
             steps.push_back({"Text33",
                              carry / g,
-                             "Enter the numerator in its simplest form.",
+                             "Simplify: enter the top.",
                              simplest,
                              {"sign", "Line6", kWholeCopies[0], kWholeCopies[1], kWholeCopies[2]}});
             steps.push_back({"Text34",
                              divisor / g,
-                             "Enter the denominator in its simplest form.",
+                             "Simplify: enter the bottom.",
                              simplest,
                              {}});
         }

@@ -239,11 +239,11 @@ TEST(ShortDivision, FractionInItsSimplestForm)
     // 458 / 6 = 76 2/6 = 76 1/3.
     p.start("div1into3frac", 458, 6);
     fillSteps(d, 4);
-    EXPECT_EQ(d.caption("text17"), "Enter the numerator (the remainder).");
+    EXPECT_EQ(d.caption("text17"), "Enter the remainder on top.");
     EXPECT_TRUE(d.visible("Line5"));
     EXPECT_EQ(p.shown("sign"), "-");
     fillSteps(d, 2);
-    EXPECT_EQ(d.caption("text17"), "Enter the numerator in its simplest form.");
+    EXPECT_EQ(d.caption("text17"), "Simplify: enter the top.");
     EXPECT_EQ(p.shown("sign") + p.shown("Label2") + p.shown("Label3") + p.shown("Label4"), "=76");
     d.typeEnter("Text33", "2");
     EXPECT_EQ(d.caption("time"), "2") << "the same fraction, not simplified";
