@@ -91,11 +91,7 @@ std::vector<GuidedStep> shortDivisionSteps(int dividend, int divisor, DivisionEn
                              "Simplify: enter the top.",
                              simplest,
                              {"sign", "Line6", kWholeCopies[0], kWholeCopies[1], kWholeCopies[2]}});
-            steps.push_back({"Text34",
-                             divisor / g,
-                             "Simplify: enter the bottom.",
-                             simplest,
-                             {}});
+            steps.push_back({"Text34", divisor / g, "Simplify: enter the bottom.", simplest, {}});
         }
         break;
     }
