@@ -122,40 +122,6 @@ std::vector<double> questionDraws(int a, int b)
     return draws;
 }
 
-// Random questions on each screen: the numbers come from the draws in range, the screen asks for
-// the steps of its own question, and answering them completes it without a penalty.
-TEST(LongMultiplication, ScreensAskForTheStepsOfTheirOwnQuestion)
-{
-    UniformRandom rnd(7);
-    for (const auto &[screen, digits] : {std::pair{"t22", 2}, std::pair{"t32", 3}}) {
-        Driver d;
-        d.open(screen);
-        d.click("Command11");
-        for (int q = 0; q < 150; ++q) {
-            const std::string a =
-                (digits == 3 ? d.caption("text1") : "") + d.caption("text3") + d.caption("Text5");
-            const std::string b = d.caption("text4") + d.caption("text2");
-            SCOPED_TRACE(a + " x " + b);
-            ASSERT_EQ(a.size(), std::size_t(digits));
-            ASSERT_EQ(b.size(), 2u);
-            ASSERT_NE(b.back(), '0');
-            const auto &g = dynamic_cast<GuidedSteps &>(d.front());
-            const auto expected = longMultiplicationSteps(int(readNumber(a)), int(readNumber(b)));
-            ASSERT_EQ(g.steps().size(), expected.size());
-            // The praise, then the next question (after Next, or after Yes to another go).
-            d.platform.queueDraw(rnd.next());
-            for (int i = 0; i < digits + 2; ++i)
-                d.platform.queueDraw(rnd.next());
-            if (q % 5 == 4)
-                d.platform.queueYes();
-            fillSteps(d);
-            EXPECT_EQ(d.caption("time"), "0");
-            if (q % 5 != 4)
-                d.click("Command10");
-        }
-    }
-}
-
 TEST(LongMultiplication, PupilWorksThroughBothRowsAndTheAddition)
 {
     Driver d;

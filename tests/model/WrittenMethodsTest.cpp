@@ -1,10 +1,7 @@
 // The seven further written-method screens share the written frame: the best time announced on
 // opening, five questions, the closing best-time check on each screen's own slot, Yes to start
-// afresh and Exit or No back to the menu that opened it; and whatever a child presses, in any
-// box and at any moment, the screen stays in a state its rules allow.
+// afresh and Exit or No back to the menu that opened it.
 #include "WrittenTestSupport.h"
-#include "core/Random.h"
-#include "written/AnswerBoxMethod.h"
 
 #include <functional>
 
@@ -118,59 +115,6 @@ TEST_P(WrittenMethod, FifthQuestionChecksTheScreensOwnBest)
               "You completed 5 questions in 10 seconds.Do you want another go ?")
         << "an equal time is no new best";
     EXPECT_EQ(best.number(), 10);
-}
-
-// Random keys in every box a pupil can reach, Start, Next, CHECK, Exit and ticks at any moment.
-// After every event: at most one box of a guided screen takes input and it is yellow, the
-// stopwatch only goes up within a run, and the score never passes five.
-TEST_P(WrittenMethod, AnyKeyInAnyBoxAtAnyMoment)
-{
-    const MethodCase &c = GetParam();
-    d.platform.setLenient(true, 5);
-    UniformRandom rnd(11);
-    const int keys[] = {'0', '1', '2', '3', '4', '5', '6', '7', '8',
-                        '9', '-', '.', ' ', 'a', 13,  13,  8};
-    const bool guided = dynamic_cast<GuidedSteps *>(&d.open(c.screen)) != nullptr;
-    int lastTime = 0;
-    for (int i = 0; i < 4000; ++i) {
-        if (!d.isOpen(c.screen)) {
-            d.open(c.screen);
-            lastTime = 0;
-        }
-        Screen &s = d.front();
-        std::vector<const Control *> usable;
-        for (const Control &ctl : s.controls())
-            if (ctl.visible && ctl.enabled &&
-                (ctl.kind == ControlKind::TextBox ||
-                 (ctl.kind == ControlKind::Button &&
-                  (ctl.name != "Command22" || rnd.next() < 0.02))))
-                usable.push_back(&ctl);
-        const double r = rnd.next();
-        if (r < 0.05)
-            d.tick("Timer1");
-        else if (!usable.empty()) {
-            const Control &ctl = *usable[std::size_t(rnd.next() * double(usable.size()))];
-            const std::string name = ctl.name;
-            if (ctl.kind == ControlKind::Button)
-                d.click(name);
-            else
-                d.key(name, keys[std::size_t(rnd.next() * std::size(keys))]);
-        }
-        if (!d.isOpen(c.screen) || d.frontName() != c.screen)
-            continue;
-        const int time = int(readNumber(d.caption("time")));
-        EXPECT_TRUE(time >= lastTime || time == 0);
-        lastTime = time;
-        int open = 0;
-        for (const Control &ctl : d.front().controls()) {
-            if (ctl.kind != ControlKind::TextBox || !ctl.visible || !ctl.enabled)
-                continue;
-            ++open;
-            EXPECT_TRUE(!guided || ctl.backColor == colors::yellow) << ctl.name;
-        }
-        ASSERT_TRUE(!guided || open <= 1);
-        ASSERT_LE(int(readNumber(d.caption("score"))), 5);
-    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, WrittenMethod, ::testing::ValuesIn(kCases),
