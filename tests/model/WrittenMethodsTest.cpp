@@ -31,19 +31,19 @@ void answerBoxes(Driver &d, const char *digits)
 }
 
 const MethodCase kCases[] = {
-    {"ADD333b", "addmenu", &PupilProgress::ColumnAddBest, columnAddDraws(100, 100, 100),
+    {"ADD333b", "addmenu", &PupilProgress::ColumnAddBest, columnDraws({100, 100, 100}),
      [](Driver &d) { answerBoxes(d, "300"); }},
-    {"sub33b", "submenu", &PupilProgress::ColumnSubBest, columnSubDraws(555, 111),
+    {"sub33b", "submenu", &PupilProgress::ColumnSubBest, columnDraws({555, 111}),
      [](Driver &d) { answerBoxes(d, "444"); }},
     {"t22",
      "mulmenu",
      &PupilProgress::Mul22Best,
-     {drawFor(1, 1, 9), digitDraw(2), drawFor(1, 1, 9), drawFor(1, 1, 9)},
+     {drawFor(1, 1, 9), drawFor(2, 0, 10), drawFor(1, 1, 9), drawFor(1, 1, 9)},
      [](Driver &d) { fillSteps(d); }},
     {"t32",
      "mulmenu",
      &PupilProgress::Mul32Best,
-     {drawFor(1, 1, 9), digitDraw(0), digitDraw(0), drawFor(1, 1, 9), drawFor(1, 1, 9)},
+     {drawFor(1, 1, 9), drawFor(0, 0, 10), drawFor(0, 0, 10), drawFor(1, 1, 9), drawFor(1, 1, 9)},
      [](Driver &d) { fillSteps(d); }},
     // 7 / 2: divisor 2, remainder 1, whole answer 50 (the lowest of 50..499).
     {"div1into3withremsum",
