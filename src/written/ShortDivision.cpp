@@ -72,11 +72,7 @@ std::vector<GuidedStep> shortDivisionSteps(int dividend, int divisor, DivisionEn
                              "Carry on past the decimal point.", std::move(reveal)});
             const int part = carry * 10;
             carry = part % divisor;
-            steps.push_back({kAnswerBoxes[place],
-                             part / divisor,
-                             place == 3 ? "Enter the tenths." : "Enter the hundredths.",
-                             {},
-                             {}});
+            steps.push_back({kAnswerBoxes[place], part / divisor, placePrompt(2 - place), {}, {}});
         }
         break;
     case DivisionEnding::Fraction: {
