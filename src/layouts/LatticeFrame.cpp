@@ -148,7 +148,9 @@ void LatticeFrame::stepOpened(const LayoutStep &step)
 {
     setShade(step, Shade::Waiting);
     if (std::string_view(step.box) == "answerbox")
-        activeStrip_ = Lattice::stripOfSumBox(step.index);
+        // A carry box stands in the strip its carry goes into: that strip lights up.
+        activeStrip_ =
+            Lattice::stripOfSumBox(step.index) + (Lattice::isCarryBox(step.index) ? 1 : 0);
     redraw();
 }
 

@@ -172,10 +172,12 @@ void LayoutFrame::onKeyPress(const std::string &name, int index, int &key)
         key = 0;
         return;
     }
-    const auto value = filterAnswerKey(box.caption, key);
+    const bool submitted = filterAnswerKey(box.caption, key).has_value();
     const LayoutStep *step = waiting();
-    if (value && step && step->index == index && name == step->box)
-        check(box, *value);
+    // The entry is compared as the number it reads as, not cut to 16 bits: a 3-digit by 2-digit
+    // product reaches 35341.
+    if (submitted && step && step->index == index && name == step->box)
+        check(box, readNumber(box.caption));
 }
 
 void LayoutFrame::start()
@@ -237,7 +239,7 @@ void LayoutFrame::open(std::size_t step)
     stepOpened(s);
 }
 
-void LayoutFrame::check(Control &box, int value)
+void LayoutFrame::check(Control &box, double value)
 {
     const LayoutStep &s = steps_[current_];
     if (value != s.expected) {

@@ -89,7 +89,7 @@ private:
     void next();
     void newQuestion();
     void open(std::size_t step);
-    void check(Control &box, int value);
+    void check(Control &box, double value);
     void questionDone();
     void endRun();
     void exitToMenu();

@@ -66,6 +66,22 @@ const GridCase kGridCases[] = {
       {"answers(22)", 280},
       {"answers(23)", 35},
       {"answerbox", 9315}}},
+    // The largest question: its product is beyond a 16-bit number.
+    {"grid32",
+     599,
+     59,
+     {{"question(1)", 500},
+      {"question(2)", 90},
+      {"question(3)", 9},
+      {"question(10)", 50},
+      {"question(20)", 9},
+      {"answers(11)", 25000},
+      {"answers(12)", 4500},
+      {"answers(13)", 450},
+      {"answers(21)", 4500},
+      {"answers(22)", 810},
+      {"answers(23)", 81},
+      {"answerbox", 35341}}},
 };
 
 TEST(GridMultiplication, EachBoxOpensInTurnWithItsColoursAndPrompt)
