@@ -84,7 +84,7 @@ Control &LayoutFrame::answerBox(std::string name, std::string spoken, int index,
     c.enabled = false;
     c.maxLength = 6;
     paint(c, colors::white);
-    boxes_.push_back(&c);
+    boxes_.add(c.name, index);
     return c;
 }
 
@@ -161,12 +161,9 @@ void LayoutFrame::onTimer(const std::string &name)
 
 void LayoutFrame::onKeyPress(const std::string &name, int index, int &key)
 {
-    const auto it = std::find_if(boxes_.begin(), boxes_.end(), [&](const Control *c) {
-        return c->index == index && c->name == name;
-    });
-    if (it == boxes_.end())
+    if (!boxes_.contains(name, index))
         return;
-    Control &box = **it;
+    Control &box = ctl(name, index);
     // A box that is not waiting for an entry takes no keys.
     if (!box.enabled) {
         key = 0;
@@ -184,7 +181,7 @@ void LayoutFrame::start()
 {
     if (clearing_ == Clearing::BeforeQuestion) {
         caption("questionbox").clear();
-        clearBoxes();
+        boxes_.clear(*this);
     }
     run_.begin();
     newQuestion();
@@ -193,7 +190,7 @@ void LayoutFrame::start()
 void LayoutFrame::next()
 {
     if (clearing_ == Clearing::BeforeQuestion)
-        clearBoxes();
+        boxes_.clear(*this);
     if (run_.running() && run_.score() < kQuestions)
         newQuestion();
 }
@@ -269,7 +266,7 @@ void LayoutFrame::questionDone()
         halo_->visible = false;
     if (clearing_ == Clearing::AfterQuestion) {
         caption("questionbox").clear();
-        clearBoxes();
+        boxes_.clear(*this);
     }
     caption("text17") = std::string(praiseFor(draw()));
     setVisible("Command10", true);
@@ -291,12 +288,6 @@ void LayoutFrame::exitToMenu()
 {
     run_.stop();
     handOver("mulmenu");
-}
-
-void LayoutFrame::clearBoxes()
-{
-    for (Control *box : boxes_)
-        box->caption.clear();
 }
 
 } // namespace nb

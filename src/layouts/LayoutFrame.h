@@ -4,6 +4,7 @@
 // of boxes filled one at a time (the factors set out, the work inside the grid or lattice, the
 // answer). Only the waiting box is enabled. A right entry beeps and opens the next box; a wrong
 // one is emptied and costs two seconds.
+#include "activity/AnswerBoxes.h"
 #include "activity/TimedRun.h"
 #include "core/PupilProgress.h"
 #include "core/Screen.h"
@@ -93,7 +94,6 @@ private:
     void questionDone();
     void endRun();
     void exitToMenu();
-    void clearBoxes();
     // A back colour with ink that reads on it.
     static void paint(Control &box, std::uint32_t back);
 
@@ -101,7 +101,7 @@ private:
     Sizes sizes_;
     Clearing clearing_;
     TimedRun run_;
-    std::vector<Control *> boxes_;
+    AnswerBoxes boxes_;
     Control *halo_ = nullptr;
     LayoutSteps steps_;
     std::size_t current_ = 0;

@@ -1,3 +1,5 @@
+#include "layouts/LayoutScreens.h"
+
 #include "layouts/grid21.h"
 #include "layouts/grid22.h"
 #include "layouts/grid31.h"
@@ -6,7 +8,6 @@
 #include "layouts/italian22.h"
 #include "layouts/italian31.h"
 #include "layouts/italian32.h"
-#include "shell/AllScreens.h"
 
 namespace nb {
 
