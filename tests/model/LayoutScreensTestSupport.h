@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,34 @@ inline double drawFor(int d, Range r)
     return (d - r.lo + 0.5) / (r.hi - r.lo + 1);
 }
 
+// "name" or "name(index)", as automation names a control.
+inline std::string boxId(const std::string &name, int index)
+{
+    return index < 0 ? name : name + "(" + std::to_string(index) + ")";
+}
+
+// One entry of a script such as "question(1)=50 answerbox=456".
+struct ScriptEntry
+{
+    std::string id, name;
+    int index;
+    int value;
+};
+inline std::vector<ScriptEntry> script(const std::string &text)
+{
+    std::vector<ScriptEntry> out;
+    std::istringstream in(text);
+    std::string item;
+    while (in >> item) {
+        const std::string id = item.substr(0, item.find('='));
+        const std::size_t open = id.find('(');
+        out.push_back({id, id.substr(0, open),
+                       open == std::string::npos ? -1 : std::stoi(id.substr(open + 1)),
+                       std::stoi(item.substr(item.find('=') + 1))});
+    }
+    return out;
+}
+
 // A pupil at one of the layout screens with its questions scripted.
 struct LayoutPupil
 {
@@ -87,6 +116,7 @@ struct LayoutPupil
     // The box waiting for an entry, as the focus shows it.
     std::string focusName() { return d.front().focusName(); }
     int focusIndex() { return d.front().focusIndex(); }
+    std::string focusId() { return boxId(focusName(), focusIndex()); }
     // Types `value` into the waiting box and presses Enter.
     void enter(int value) { d.typeEnter(focusName(), numberText(value), focusIndex()); }
     // The text boxes now enabled, as "name(index)".
