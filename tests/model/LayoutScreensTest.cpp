@@ -27,6 +27,20 @@ void answerQuestion(LayoutPupil &p)
     ADD_FAILURE() << "the question never ended";
 }
 
+// Answers the five questions of a run, with NEXT between them and `reply` to another go.
+void playRun(LayoutPupil &p, int reply)
+{
+    for (int q = 1; q <= 5; ++q) {
+        if (q == 5)
+            p.d.platform.queueYesNo(reply);
+        answerQuestion(p);
+        if (q < 5) {
+            EXPECT_EQ(p.d.caption("score"), numberText(q));
+            p.d.click("Command10");
+        }
+    }
+}
+
 TEST(LayoutScreens, DigitsAreDrawnFromEachScreensRanges)
 {
     struct Case
@@ -151,15 +165,7 @@ TEST(LayoutScreens, FiveQuestionsEndWithTheBestTimeCheckOnTheScreensSlot)
                   std::vector<std::string>{"Your best time is 40 seconds."});
         p.d.click("Command1");
         p.d.tick("Timer1", 30);
-        for (int q = 1; q <= 5; ++q) {
-            if (q == 5)
-                p.d.platform.queueYes();
-            answerQuestion(p);
-            if (q < 5) {
-                EXPECT_EQ(p.d.caption("score"), numberText(q));
-                p.d.click("Command10");
-            }
-        }
+        playRun(p, kYes);
         EXPECT_EQ(p.d.platform.lastMessage(), "You completed 5 questions in 30 seconds. You have "
                                               "beaten your best time!!! Do you want another go ?");
         EXPECT_EQ((p.d.progress().*s.best).number(), 30);
@@ -172,13 +178,7 @@ TEST(LayoutScreens, FiveQuestionsEndWithTheBestTimeCheckOnTheScreensSlot)
 
         // A slower run keeps the best; No goes back to the menu.
         p.d.tick("Timer1", 31);
-        for (int q = 1; q <= 5; ++q) {
-            if (q == 5)
-                p.d.platform.queueNo();
-            answerQuestion(p);
-            if (q < 5)
-                p.d.click("Command10");
-        }
+        playRun(p, kNo);
         EXPECT_EQ(p.d.platform.lastMessage(),
                   "You completed 5 questions in 31 seconds.Do you want another go ?");
         EXPECT_EQ((p.d.progress().*s.best).number(), 30);
@@ -194,13 +194,7 @@ TEST(LayoutScreens, AFirstRunIsStoredWithoutPraiseAndNextDoesNothingAfterTheFift
     EXPECT_TRUE(p.d.platform.shown.empty()); // no best yet: nothing announced
     p.d.click("Command1");
     p.d.tick("Timer1", 12);
-    for (int q = 1; q <= 5; ++q) {
-        if (q == 5)
-            p.d.platform.queueYes();
-        answerQuestion(p);
-        if (q < 5)
-            p.d.click("Command10");
-    }
+    playRun(p, kYes);
     EXPECT_EQ(p.d.platform.lastMessage(),
               "You completed 5 questions in 12 seconds.Do you want another go ?");
     EXPECT_EQ(p.d.progress().Mul22Best.number(), 12);
