@@ -89,8 +89,9 @@ const std::vector<AchievementRow> &achievementRows()
 
 std::string achievementText(const Value &value, bool level)
 {
-    if (value == Value::int16(0))
-        return {}; // no result yet (empty counts as 0)
+    // No result yet: empty, 0, or empty text. A text such as "Champion." is a result.
+    if (value.isEmpty() || (value.isText() ? value.asText().empty() : value.number() == 0))
+        return {};
     return (level ? "level" : "") + value.str();
 }
 

@@ -19,19 +19,31 @@ const std::uint32_t kColumnColors[] = {rgb(255, 250, 200), rgb(200, 225, 255), r
 constexpr int kTop = 1450;
 constexpr int kRowStep = 380;
 constexpr int kRowHeight = 340;
-constexpr int kCaptionWidth = 2250;
-constexpr int kCellStep = 860;
-constexpr int kCellWidth = 820;
+constexpr int kCaptionWidth = 2000;
+constexpr int kCellStep = 960;
+constexpr int kCellWidth = 930;
 
-// Characters a file name cannot hold become "_".
+// The pupil's name as part of a file name: characters a file name cannot hold become "_", and a
+// long name is cut (between whole characters) so the file name stays well inside what any file
+// system accepts.
 std::string fileNamePart(const std::string &text)
 {
+    constexpr std::size_t kMaxBytes = 40;
     std::string out;
     for (char c : text) {
         const auto b = static_cast<unsigned char>(c);
         out +=
             (b < 32 || std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) ? '_' : c;
     }
+    if (out.size() > kMaxBytes) {
+        std::size_t cut = kMaxBytes;
+        while (cut > 0 && (static_cast<unsigned char>(out[cut]) & 0xC0) == 0x80)
+            --cut; // not inside a UTF-8 sequence
+        out.resize(cut);
+    }
+    // A name ending in blanks or dots makes an awkward file name on some systems.
+    while (!out.empty() && (out.back() == ' ' || out.back() == '.'))
+        out.pop_back();
     return out;
 }
 
@@ -43,9 +55,11 @@ BestTimes::BestTimes(App &app)
     setSize(12000, 9000);
     setBackColor(rgb(255, 248, 220));
 
+    // Shows the name; nothing on this screen changes it.
     Control &name = textBox("namebox", "Pupil name", 300, 250, 5400, 600);
     name.font.points = 18;
     name.font.bold = true;
+    name.readOnly = true;
 
     Control &key = label("Label89", "KEY", 6100, 150, 1000, 450);
     key.font.points = 14;
@@ -65,7 +79,7 @@ BestTimes::BestTimes(App &app)
     int row = 0;
     for (const AchievementRow &r : achievementRows()) {
         const int column = row < kFirstColumnRows ? 0 : 1;
-        const int left = 200 + column * 5900;
+        const int left = 120 + column * 5940;
         const int top = kTop + (column == 0 ? row : row - kFirstColumnRows) * kRowStep;
         Control &c = label("Label" + std::to_string(row + 1), r.caption, left, top, kCaptionWidth,
                            kRowHeight);
@@ -80,6 +94,7 @@ BestTimes::BestTimes(App &app)
             v.align = Align::Center;
             v.border = true;
             v.backColor = kColumnColors[m];
+            v.fit = TextFit::Shrink; // any value a record holds reads whole
         }
         ++row;
     }
