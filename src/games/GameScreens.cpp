@@ -1,10 +1,14 @@
 #include "games/GameScreens.h"
 
+#include "games/fourinarow.h"
+#include "games/twoplayerfourinarow.h"
+
 namespace nb {
 
 void registerGameScreens(ScreenRegistry &registry)
 {
-    (void)registry;
+    registry.add<FourInARow>("fourinarow", "Four in a row");
+    registry.add<TwoPlayerFourInARow>("twoplayerfourinarow", "Two-player four in a row");
 }
 
 } // namespace nb

@@ -124,7 +124,7 @@ void WrittenFrame::headings(int firstColumn, int row, std::initializer_list<cons
 Control &WrittenFrame::answerBox(std::string name, std::string spoken, int column, int row)
 {
     constexpr int inset = 70;
-    boxes_.push_back(name);
+    boxes_.add(name);
     Control &c = textBox(std::move(name), std::move(spoken), cellX(column) + inset,
                          cellY(row) + inset, kCell - 2 * inset, kCell - 2 * inset);
     c.font.points = 32;
@@ -149,18 +149,36 @@ Control &WrittenFrame::carryBox(std::string name, std::string spoken, int column
 
 void WrittenFrame::rules(int answerRow, int firstColumn, int lastColumn, bool doubleRule)
 {
-    const int x1 = cellX(firstColumn) + 60;
-    const int x2 = cellX(lastColumn + 1) - 60;
-    line("Line1", x1, cellY(answerRow), x2, cellY(answerRow), kInk).lineWidth = 40;
-    line("Line2", x1, cellY(answerRow + 1), x2, cellY(answerRow + 1), kInk).lineWidth = 40;
+    rule("Line1", cellY(answerRow), firstColumn, lastColumn);
+    rule("Line2", cellY(answerRow + 1), firstColumn, lastColumn);
     if (doubleRule)
-        line("Line3", x1, cellY(answerRow + 1) + 90, x2, cellY(answerRow + 1) + 90, kInk)
-            .lineWidth = 40;
+        rule("Line3", cellY(answerRow + 1) + 90, firstColumn, lastColumn);
+}
+
+Control &WrittenFrame::penLine(std::string name, int x1, int y1, int x2, int y2)
+{
+    Control &c = line(std::move(name), x1, y1, x2, y2, kInk);
+    c.lineWidth = 40;
+    return c;
+}
+
+Control &WrittenFrame::rule(std::string name, int y, int firstColumn, int lastColumn)
+{
+    return penLine(std::move(name), cellX(firstColumn) + 60, y, cellX(lastColumn + 1) - 60, y);
+}
+
+Control &WrittenFrame::sideHint(std::string text)
+{
+    Control &c = label("hint", std::move(text), kPanelLeft, 5700, kPanelWidth, 1700);
+    c.font.points = 14;
+    c.font.bold = true;
+    c.foreColor = kPencil;
+    return c;
 }
 
 bool WrittenFrame::isAnswerBox(std::string_view name) const
 {
-    return std::find(boxes_.begin(), boxes_.end(), name) != boxes_.end();
+    return boxes_.contains(name);
 }
 
 void WrittenFrame::onOpened()
@@ -190,7 +208,7 @@ void WrittenFrame::onTimer(const std::string &name)
 
 void WrittenFrame::onKeyPress(const std::string &name, int index, int &key)
 {
-    if (index != -1 || !isAnswerBox(name))
+    if (!boxes_.contains(name, index))
         return;
     Control &box = ctl(name);
     if (const auto value = filterAnswerKey(box.caption, keyReference(name), key))
@@ -231,12 +249,17 @@ void WrittenFrame::wrongEntry(const std::string &box)
     run_.penalty(2);
 }
 
+void WrittenFrame::addPenalty(int seconds)
+{
+    if (seconds > 0)
+        run_.penalty(seconds);
+}
+
 void WrittenFrame::clearPage()
 {
     questionComplete_ = false;
     setVisible("Command10", false);
-    for (const std::string &box : boxes_)
-        caption(box).clear();
+    boxes_.clear(*this);
     setPrompt("");
 }
 

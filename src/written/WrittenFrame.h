@@ -3,6 +3,7 @@
 // paper, a prompt line under it, the stopwatch and score, and Start, Next and Exit. An exercise
 // is five questions; each answer box takes one entry at a time through the answer-box key
 // filter, a right entry beeps and a wrong one is emptied and costs two seconds.
+#include "activity/AnswerBoxes.h"
 #include "activity/TimedRun.h"
 #include "core/PupilProgress.h"
 #include "core/Screen.h"
@@ -55,6 +56,12 @@ protected:
     // The rules around the answer row from `firstColumn` to `lastColumn`: Line1 over it, Line2
     // under it and, with `doubleRule`, Line3 just below Line2.
     void rules(int answerRow, int firstColumn, int lastColumn, bool doubleRule);
+    // A line in the ink of the sum, from (x1, y1) to (x2, y2) in twips.
+    Control &penLine(std::string name, int x1, int y1, int x2, int y2);
+    // One ruled line across the columns `firstColumn` to `lastColumn` at height `y` (twips).
+    Control &rule(std::string name, int y, int firstColumn, int lastColumn);
+    // A note in the side panel under the buttons, for what to do at this moment.
+    Control &sideHint(std::string text);
 
     // What each screen does for itself.
     virtual void newQuestion() = 0;
@@ -76,6 +83,8 @@ protected:
     // A right entry beeps; a wrong one empties the box and adds two seconds.
     void rightEntry();
     void wrongEntry(const std::string &box);
+    // Seconds added to the stopwatch without emptying a box.
+    void addPenalty(int seconds);
     void setPrompt(std::string_view text) { caption("text17") = std::string(text); }
     // Empties every answer box and the prompt line and hides Next: the start of a question.
     void clearPage();
@@ -91,6 +100,7 @@ protected:
     Value &bestTime() { return progress().*best_; }
     const TimedRun &run() const { return run_; }
     bool isAnswerBox(std::string_view name) const;
+    const std::vector<std::pair<std::string, int>> &answerBoxes() const { return boxes_.all(); }
 
     bool questionComplete_ = false;
 
@@ -100,7 +110,7 @@ private:
 
     Value PupilProgress::*best_;
     std::string menu_;
-    std::vector<std::string> boxes_;
+    AnswerBoxes boxes_;
     TimedRun run_;
 };
 

@@ -1,0 +1,58 @@
+#include "written/sub33b.h"
+
+namespace nb {
+
+namespace {
+constexpr int kExchangeRow = 1, kTopRow = 2, kBottomRow = 3, kAnswerRow = 4;
+} // namespace
+
+Sub33b::Sub33b(App &app)
+    : AnswerBoxMethod(app, &PupilProgress::ColumnSubBest, "submenu",
+                      "Exchanges go in the small boxes. They are not marked.")
+{
+    headings(kHundredsColumn, 0, {"H", "T", "U"});
+    digitLabel("Label1", kHundredsColumn, kTopRow);
+    digitLabel("Label2", kTensColumn, kTopRow);
+    digitLabel("Text5", kUnitsColumn, kTopRow);
+    signLabel("\u2212", kSignColumn, kBottomRow);
+    digitLabel("text10", kHundredsColumn, kBottomRow);
+    digitLabel("text4", kTensColumn, kBottomRow);
+    digitLabel("text2", kUnitsColumn, kBottomRow);
+
+    // A top digit that gives is rewritten above its column; the "1" that comes in goes just in
+    // front of the digit that receives it,
+    constexpr int size = 560, small = 300;
+    for (const auto &[name, column] :
+         {std::pair{"Text16", kHundredsColumn}, std::pair{"Text15", kTensColumn}})
+        noteBox(name, std::string("new ") + (column == kHundredsColumn ? "hundreds" : "tens"),
+                cellX(column) + (kCell - size) / 2, cellY(kExchangeRow) + kCell - size - 60, size);
+    // squeezed between two top digits, on the line between their squares.
+    noteBox("Text14", "ten in front of the tens", cellX(kTensColumn) - small / 2 + 40,
+            cellY(kTopRow) + (kCell - small) / 2, small);
+    noteBox("text18", "ten in front of the units", cellX(kUnitsColumn) - small / 2 + 40,
+            cellY(kTopRow) + (kCell - small) / 2, small);
+
+    rules(kAnswerRow, kSignColumn, kUnitsColumn, false);
+    digitBox("Text13", "hundreds", kHundredsColumn, kAnswerRow);
+    digitBox("Text12", "tens", kTensColumn, kAnswerRow);
+    digitBox("Text11", "units", kUnitsColumn, kAnswerRow);
+}
+
+void Sub33b::newQuestion()
+{
+    const int topHundreds = drawDigit("Label1", 9, 1);
+    const int topTens = drawDigit("Label2", 10);
+    const int topUnits = drawDigit("Text5", 10);
+    // Always below the top hundreds digit, so the difference is at least 1.
+    const int bottomHundreds = drawDigit("text10", topHundreds);
+    const int bottomTens = drawDigit("text4", 10);
+    const int bottomUnits = drawDigit("text2", 10);
+    const int difference = (topHundreds - bottomHundreds) * 100 + (topTens - bottomTens) * 10 +
+                           (topUnits - bottomUnits);
+    // Every column is answered, with 0 where the difference has no digit there.
+    beginAnswer({{"Text11", difference % 10},
+                 {"Text12", difference / 10 % 10},
+                 {"Text13", difference / 100}});
+}
+
+} // namespace nb

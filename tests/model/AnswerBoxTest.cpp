@@ -1,0 +1,123 @@
+// The answer-box forms of column addition and subtraction: random questions answered in any
+// order, one digit wrong at first, and the marking rules for missing, extra, repeated and
+// corrected digits.
+#include "WrittenTestSupport.h"
+#include "core/Random.h"
+#include "written/AnswerBoxMethod.h"
+
+#include <algorithm>
+
+namespace nb::test {
+namespace {
+
+constexpr std::uint32_t kRight = AnswerBoxMethod::kRightBox;
+constexpr std::uint32_t kWrong = AnswerBoxMethod::kWrongBox;
+
+int shownNumber(Driver &d, std::initializer_list<const char *> labels)
+{
+    std::string text;
+    for (const char *l : labels)
+        text += d.caption(l);
+    return int(readNumber(text));
+}
+
+TEST(AnswerBox, RandomQuestionsAnsweredInAnyOrder)
+{
+    UniformRandom rnd(33);
+    for (const std::string screen : {"ADD333b", "sub33b"}) {
+        const bool adding = screen == "ADD333b";
+        Driver d;
+        d.open(screen);
+        d.click("Command11");
+        for (int q = 0; q < 200; ++q) {
+            const int bottom = shownNumber(d, {"text10", "text4", "text2"});
+            const int answer = adding ? shownNumber(d, {"text1", "text3", "Text5"}) + bottom +
+                                            shownNumber(d, {"text20", "text19", "text18"})
+                                      : shownNumber(d, {"Label1", "Label2", "Text5"}) - bottom;
+            SCOPED_TRACE(screen + " " + std::to_string(answer));
+            std::vector<std::pair<std::string, int>> digits;
+            for (int p = 0, a = answer; p < (answer >= 1000 ? 4 : 3); ++p, a /= 10)
+                digits.emplace_back("Text1" + std::to_string(p + 1), a % 10);
+            std::shuffle(digits.begin(), digits.end(), std::mt19937(std::uint32_t(q)));
+            const std::size_t wrong = std::size_t(rnd.next() * double(digits.size()));
+            for (std::size_t i = 0; i < digits.size(); ++i) {
+                d.type(digits[i].first, numberText((digits[i].second + (i == wrong)) % 10));
+                d.setText(adding ? "Text15" : "text18", numberText(q % 10)); // never marked
+            }
+            const int before = int(readNumber(d.caption("time")));
+            d.enter(digits.back().first);
+            for (std::size_t i = 0; i < digits.size(); ++i)
+                EXPECT_TRUE(d.backColor(digits[i].first) == (i == wrong ? kWrong : kRight) &&
+                            d.enabled(digits[i].first) == (i == wrong));
+            EXPECT_EQ(d.front().focusName() + d.caption("text17"),
+                      digits[wrong].first + "Change the red digits.");
+            d.platform.queueDraw(rnd.next()); // the praise
+            if (q % 5 == 4)
+                d.platform.queueYes();
+            d.type(digits[wrong].first, numberText(digits[wrong].second));
+            d.click("Command13");
+            if (q % 5 == 4) {
+                EXPECT_EQ(d.caption("time"), "0") << "another go starts afresh";
+                continue;
+            }
+            EXPECT_EQ(int(readNumber(d.caption("time"))), before + 2);
+            d.click("Command10");
+        }
+    }
+}
+
+TEST(AnswerBox, MarkingRules)
+{
+    Driver d;
+    d.open("ADD333b");
+    queueDraws(d, columnDraws({123, 204, 311})); // 638
+    d.click("Command11");
+    EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text11Write the answer, then CHECK.");
+    // Enter after the units alone marks nothing; a second digit does not fit in a box.
+    d.typeEnter("Text11", "8");
+    d.type("Text12", "34");
+    d.enter("Text12");
+    EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text13Fill in H, T and U first.");
+    EXPECT_EQ(d.caption("time") + d.text("Text12"), "03");
+    // A 0 in the thousands of a three-digit answer is wrong, as are wrong hundreds: four
+    // seconds; marking again without a change costs nothing more.
+    d.type("Text13", "5");
+    d.type("Text14", "0");
+    d.click("Command13");
+    d.click("Command13");
+    d.enter("Text13");
+    EXPECT_EQ(d.caption("time") + d.text("Text13"), "45");
+    EXPECT_EQ(d.backColor("Text14"), kWrong);
+    EXPECT_EQ(d.backColor("Text12"), kRight);
+    d.key("Text14", 8);
+    EXPECT_EQ(d.backColor("Text14"), colors::yellow) << "a changed red box is open again";
+    d.type("Text13", "6");
+    d.platform.queueDraw(0.0);
+    d.typeEnter("Text15", "1");
+    EXPECT_EQ(d.caption("time") + d.caption("text17"), "4That's correct !");
+    EXPECT_FALSE(d.enabled("Text15"));
+
+    // A four-digit total needs its thousands: an empty box is a wrong digit.
+    queueDraws(d, columnDraws({999, 999, 999})); // 2997
+    d.click("Command10");
+    for (const char *entry : {"Text117", "Text129", "Text139", "Text163"})
+        d.type(std::string(entry, 6), std::string(1, entry[6]));
+    d.click("Command13");
+    EXPECT_EQ(d.caption("time") + d.text("Text16"), "63") << "carries are never marked";
+    d.typeEnter("Text14", "2");
+    EXPECT_TRUE(d.visible("Command10"));
+
+    // Subtraction answers every column: 512 - 481 needs 0 hundreds.
+    d.click("Command22");
+    d.open("sub33b");
+    queueDraws(d, columnDraws({512, 481}));
+    d.click("Command11");
+    d.type("Text11", "1");
+    d.typeEnter("Text12", "3");
+    EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text13Fill in H, T and U first.");
+    d.typeEnter("Text13", "0");
+    EXPECT_EQ(d.caption("time") + d.front().focusName(), "0Command10");
+}
+
+} // namespace
+} // namespace nb::test

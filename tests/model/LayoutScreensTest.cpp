@@ -1,0 +1,228 @@
+// The frame every grid and lattice screen shares, checked on all eight: the digit ranges, the
+// input guard, penalties, disabled boxes, the five-question run with its best-time check, NEXT
+// and EXIT.
+#include "LayoutScreensTestSupport.h"
+#include "layouts/LayoutFrame.h"
+#include "layouts/LayoutStep.h"
+
+namespace nb::test {
+namespace {
+
+// The right value of the waiting box, as the screen expects it.
+int rightValue(Driver &d)
+{
+    const LayoutStep *step = dynamic_cast<LayoutFrame &>(d.front()).waiting();
+    return step ? step->expected : -1;
+}
+
+// Answers every box of the question in front rightly (until the score moves on).
+void answerQuestion(LayoutPupil &p)
+{
+    const std::string score = p.d.caption("score");
+    for (int guard = 0; guard < 40; ++guard) {
+        p.enter(rightValue(p.d));
+        if (p.d.frontName() != p.s.name || p.d.caption("score") != score)
+            return;
+    }
+    ADD_FAILURE() << "the question never ended";
+}
+
+// Answers the five questions of a run, with NEXT between them and `reply` to another go.
+void playRun(LayoutPupil &p, int reply)
+{
+    for (int q = 1; q <= 5; ++q) {
+        if (q == 5)
+            p.d.platform.queueYesNo(reply);
+        answerQuestion(p);
+        if (q < 5) {
+            EXPECT_EQ(p.d.caption("score"), numberText(q));
+            p.d.click("Command10");
+        }
+    }
+}
+
+TEST(LayoutScreens, DigitsAreDrawnFromEachScreensRanges)
+{
+    struct Case
+    {
+        const char *screen;
+        const char *lowest, *highest;
+    };
+    const Case cases[] = {
+        {"grid21", "33x1", "99x9"},      {"grid22", "21x11", "99x59"},
+        {"grid31", "111x3", "599x9"},    {"grid32", "111x11", "599x59"},
+        {"italian21", "31x3", "99x9"},   {"italian22", "11x11", "99x99"},
+        {"italian31", "111x1", "999x9"}, {"italian32", "111x11", "999x99"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.screen);
+        const LayoutScreen &s = layoutScreen(c.screen);
+        Driver d;
+        d.platform.setStrictDraws(true);
+        d.open(c.screen);
+        for (std::size_t i = 0; i < s.a.size() + s.b.size(); ++i)
+            d.platform.queueDraw(0.0);
+        d.click("Command1");
+        EXPECT_EQ(d.caption("questionbox"), c.lowest);
+        for (std::size_t i = 0; i < s.a.size() + s.b.size() + 1; ++i)
+            d.platform.queueDraw(0.99999);
+        d.click("Command13"); // back to the menu and in again for a second first question
+        d.open(c.screen);
+        d.click("Command1");
+        EXPECT_EQ(d.caption("questionbox"), c.highest);
+    }
+}
+
+TEST(LayoutScreens, InputGuardClearsUntidyTextWithoutPenalty)
+{
+    struct Case
+    {
+        const char *typed;
+        const char *after; // the box text once the keys are in
+        int penalty;       // seconds added
+    };
+    const Case cases[] = {
+        {"07\r", "", 0},  // cleared at the Enter, nothing checked
+        {"075", "5", 0},  // cleared at the next key, which goes into the empty box
+        {"12a\r", "", 0}, // letters after digits
+        {"\r", "", 0},    // an empty box submits nothing
+        {"0", "0", 0},    // a lone 0 stays
+        {"0\r", "", 2},   // ... and is checked: wrong for a first box, which is never 0
+        {"-5\r", "", 2},  // a negative number is checked, and is wrong
+    };
+    for (const LayoutScreen &s : kLayoutScreens) {
+        for (const Case &c : cases) {
+            SCOPED_TRACE(std::string(s.name) + " " + c.typed);
+            LayoutPupil p(s.name);
+            p.start(numberOf(std::vector<int>(s.a.size(), 3)),
+                    numberOf(std::vector<int>(s.b.size(), 3)));
+            const std::string box = p.focusName();
+            const int index = p.focusIndex();
+            p.d.type(box, c.typed, index);
+            EXPECT_EQ(p.d.caption(box, index), c.after);
+            EXPECT_EQ(p.d.caption("time"), numberText(c.penalty));
+            EXPECT_EQ(p.d.platform.beeps, 0);
+            EXPECT_EQ(p.focusName(), box);
+            EXPECT_EQ(p.focusIndex(), index);
+        }
+    }
+}
+
+TEST(LayoutScreens, AWrongEntryCostsTwoSecondsAndKeepsTheSameBox)
+{
+    for (const LayoutScreen &s : kLayoutScreens) {
+        SCOPED_TRACE(s.name);
+        LayoutPupil p(s.name);
+        p.start(numberOf(std::vector<int>(s.a.size(), 4)),
+                numberOf(std::vector<int>(s.b.size(), 3)));
+        int seconds = 0;
+        while (!p.d.visible("Command10")) {
+            const std::string box = p.focusName();
+            const int index = p.focusIndex();
+            const int right = rightValue(p.d);
+            p.enter(right + 1);
+            seconds += 2;
+            EXPECT_EQ(p.d.caption("time"), numberText(seconds));
+            EXPECT_EQ(p.d.caption(box, index), "");
+            EXPECT_TRUE(p.d.reachable(box, index)) << box << index;
+            EXPECT_EQ(p.d.platform.beeps, seconds / 2 - 1) << "only right entries beep";
+            p.enter(right);
+        }
+        EXPECT_EQ(p.d.caption("score"), "1");
+    }
+}
+
+TEST(LayoutScreens, DisabledBoxesTakeNoKeys)
+{
+    for (const LayoutScreen &s : kLayoutScreens) {
+        SCOPED_TRACE(s.name);
+        Driver d;
+        Screen &screen = d.open(s.name);
+        // Before START every box is disabled; during a question all but the waiting one are.
+        for (int round = 0; round < 2; ++round) {
+            for (Control &c : screen.controls()) {
+                if (c.kind != ControlKind::TextBox || c.enabled)
+                    continue;
+                for (int key : {int('7'), 13, 8, int('a')})
+                    EXPECT_EQ(d.app.keyPress(screen, c.name, c.index, key), 0) << c.id();
+                EXPECT_EQ(c.caption, "") << c.id();
+            }
+            EXPECT_EQ(d.caption("time"), round == 0 ? "" : "0");
+            if (round == 0)
+                d.click("Command1");
+        }
+    }
+}
+
+TEST(LayoutScreens, FiveQuestionsEndWithTheBestTimeCheckOnTheScreensSlot)
+{
+    for (const LayoutScreen &s : kLayoutScreens) {
+        SCOPED_TRACE(s.name);
+        LayoutPupil p(s.name);
+        p.d.progress().*s.best = Value::real(40);
+        p.d.open(s.name);
+        EXPECT_EQ(p.d.platform.messages(),
+                  std::vector<std::string>{"Your best time is 40 seconds."});
+        p.d.click("Command1");
+        p.d.tick("Timer1", 30);
+        playRun(p, kYes);
+        EXPECT_EQ(p.d.platform.lastMessage(), "You completed 5 questions in 30 seconds. You have "
+                                              "beaten your best time!!! Do you want another go ?");
+        EXPECT_EQ((p.d.progress().*s.best).number(), 30);
+        // Yes: a new run at once.
+        EXPECT_EQ(p.d.caption("time"), "0");
+        EXPECT_EQ(p.d.caption("score"), "0");
+        EXPECT_TRUE(p.d.timerOn("Timer1"));
+        EXPECT_FALSE(p.d.enabled("Command1"));
+        EXPECT_EQ(p.focusName(), "question");
+
+        // A slower run keeps the best; No goes back to the menu.
+        p.d.tick("Timer1", 31);
+        playRun(p, kNo);
+        EXPECT_EQ(p.d.platform.lastMessage(),
+                  "You completed 5 questions in 31 seconds.Do you want another go ?");
+        EXPECT_EQ((p.d.progress().*s.best).number(), 30);
+        EXPECT_EQ(p.d.frontName(), "mulmenu");
+        EXPECT_FALSE(p.d.isOpen(s.name));
+    }
+}
+
+TEST(LayoutScreens, AFirstRunIsStoredWithoutPraiseAndNextDoesNothingAfterTheFifth)
+{
+    LayoutPupil p("italian22");
+    p.d.open("italian22");
+    EXPECT_TRUE(p.d.platform.shown.empty()); // no best yet: nothing announced
+    p.d.click("Command1");
+    p.d.tick("Timer1", 12);
+    playRun(p, kYes);
+    EXPECT_EQ(p.d.platform.lastMessage(),
+              "You completed 5 questions in 12 seconds.Do you want another go ?");
+    EXPECT_EQ(p.d.progress().Mul22Best.number(), 12);
+    // NEXT is hidden; pressed anyway, it changes nothing.
+    const std::string question = p.d.caption("questionbox");
+    EXPECT_FALSE(p.d.visible("Command10"));
+    p.d.app.click(p.d.front(), "Command10");
+    EXPECT_EQ(p.d.caption("questionbox"), question);
+    EXPECT_EQ(p.d.caption("score"), "0");
+}
+
+TEST(LayoutScreens, TheClockRunsOnlyDuringARunAndExitLeavesAtAnyMoment)
+{
+    for (const LayoutScreen &s : kLayoutScreens) {
+        SCOPED_TRACE(s.name);
+        LayoutPupil p(s.name);
+        p.d.open(s.name);
+        EXPECT_FALSE(p.d.timerOn("Timer1"));
+        EXPECT_EQ(p.d.interval("Timer1"), 1000);
+        p.d.click("Command1");
+        p.d.tick("Timer1", 3);
+        EXPECT_EQ(p.d.caption("time"), "3");
+        p.enter(rightValue(p.d));
+        p.d.click("Command13");
+        EXPECT_EQ(p.d.frontName(), "mulmenu");
+        EXPECT_FALSE(p.d.isOpen(s.name));
+    }
+}
+
+} // namespace
+} // namespace nb::test
