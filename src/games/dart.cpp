@@ -1,0 +1,167 @@
+#include "games/dart.h"
+
+#include "activity/Ask.h"
+#include "core/NumberText.h"
+#include "core/Platform.h"
+
+namespace nb {
+
+using namespace darts;
+
+namespace {
+
+// Letters, not bytes: a name such as "Zoë" is three letters long.
+std::size_t letters(const std::string &s)
+{
+    std::size_t n = 0;
+    for (unsigned char c : s)
+        n += (c & 0xC0) != 0x80;
+    return n;
+}
+
+std::string trimmed(const std::string &s)
+{
+    const auto first = s.find_first_not_of(" \t");
+    if (first == std::string::npos)
+        return {};
+    return s.substr(first, s.find_last_not_of(" \t") - first + 1);
+}
+
+constexpr std::uint32_t kChalk = rgb(255, 250, 235);
+
+} // namespace
+
+Dart::Dart(App &app, BoardKind kind)
+    : DartsFrame(app, kind, "pairmenu")
+{
+    sides_[1].answerBox = "newtargetcom";
+    const auto block = [this](int player, int top) {
+        const std::string n = std::to_string(player);
+        panelLabel("player" + n, "Player " + n, top, 500, 18);
+        Control &won = label("wonlabel", "Games won", 250, top + 560, 1550, 420, player - 1);
+        won.font.points = 12;
+        won.font.bold = true;
+        won.foreColor = kChalk;
+        won.align = Align::Right;
+        Control &legs = label("player" + n + "score", "0", 1900, top + 520, 750, 500);
+        legs.font.points = 18;
+        legs.font.bold = true;
+        legs.align = Align::Center;
+        legs.backColor = rgb(255, 222, 89);
+        legs.border = true;
+        scoreBoard(player == 1 ? "target" : "targetcom", top + 1100);
+        answerBox(player == 1 ? "newtarget" : "newtargetcom", "player " + n + " score left",
+                  top + 2130);
+    };
+    block(1, 250);
+    block(2, 3350);
+    Control &info = label("legsinfo", "", 9150, 250, 3200, 1100);
+    info.font.points = 14;
+    info.font.bold = true;
+    info.align = Align::Center;
+    info.foreColor = rgb(255, 222, 89);
+}
+
+std::string Dart::throwerCall() const
+{
+    return names_[std::size_t(thrower_)] + ",";
+}
+
+std::string Dart::pauseHint() const
+{
+    return "Wait a moment: " + names_[std::size_t(1 - thrower_)] + " throws next.";
+}
+
+// Asked again while the name is too long; an empty answer (Cancel) gives up the new game.
+bool Dart::askName(int player)
+{
+    const std::string prompt = "Player " + std::to_string(player) +
+                               " please enter your name (maximum " +
+                               std::to_string(kMaxNameLetters) + " letters).";
+    std::string name;
+    do {
+        name = trimmed(platform().inputBox(prompt, {}, names_[std::size_t(player - 1)]));
+        if (name.empty())
+            return false;
+    } while (letters(name) > kMaxNameLetters);
+    names_[std::size_t(player - 1)] = name;
+    return true;
+}
+
+// A whole number from 1 to 9; anything else is explained and asked again. Empty gives up.
+bool Dart::askLegs()
+{
+    for (;;) {
+        const std::string text = trimmed(
+            platform().inputBox("What number of games will be needed to win ?.", {},
+                                legsToWin_ > 0 ? std::to_string(legsToWin_) : std::string()));
+        if (text.empty())
+            return false;
+        const double n = readNumber(text);
+        if (isCleanNumberText(text) && n >= 1 && n <= kMostLegs && n == double(int(n))) {
+            legsToWin_ = int(n);
+            return true;
+        }
+        tell(kLegsRule);
+    }
+}
+
+void Dart::start()
+{
+    resetBoard();
+    if (!askName(1) || !askName(2) || !askLegs()) {
+        setStatus("Press START to begin: each player types a name, then the number of games "
+                  "needed to win.");
+        return;
+    }
+    caption("player1") = names_[0];
+    caption("player2") = names_[1];
+    legs_ = {0, 0};
+    caption("player1score") = "0";
+    caption("player2score") = "0";
+    caption("legsinfo") = "First to " + std::to_string(legsToWin_) +
+                          (legsToWin_ == 1 ? " game" : " games") + " wins the match.";
+    legStarter_ = 0;
+    beginLeg();
+}
+
+void Dart::beginLeg()
+{
+    setRemaining(0, kStartScore);
+    setRemaining(1, kStartScore);
+    beginTurn(legStarter_);
+}
+
+void Dart::turnOver()
+{
+    setStatus("End of " + names_[std::size_t(thrower_)] + "'s turn.");
+    setTimer("Timer1", true);
+}
+
+// The pause after a turn is over: the next player's turn begins.
+void Dart::tick()
+{
+    setTimer("Timer1", false);
+    beginTurn(1 - thrower_);
+}
+
+void Dart::finished()
+{
+    const std::size_t w = std::size_t(thrower_);
+    tell(names_[w] + " is the winner of that leg!!");
+    ++legs_[w];
+    caption(w == 0 ? "player1score" : "player2score") = std::to_string(legs_[w]);
+    if (legs_[w] < legsToWin_) {
+        legStarter_ = 1 - legStarter_; // the players take turns to throw first
+        beginLeg();
+        return;
+    }
+    tell(names_[w] + " has won by " + std::to_string(legs_[w]) + " games to " +
+         std::to_string(legs_[1 - w]));
+    if (ask(platform(), progress(), "Do you want another game ?") == kYes)
+        start();
+    else
+        leave();
+}
+
+} // namespace nb
