@@ -4,6 +4,7 @@
 #include "core/NumberText.h"
 #include "core/PupilProgress.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace nb {
@@ -16,12 +17,10 @@ constexpr std::uint32_t kWall = rgb(30, 84, 72);
 constexpr std::uint32_t kChalk = rgb(255, 250, 235);
 constexpr std::uint32_t kYellowText = rgb(255, 222, 89);
 
-// Board colours: the sectors alternate dark and cream; a scoring ring is red on a dark sector
-// and green on a cream one.
-constexpr std::uint32_t kDark = rgb(36, 32, 33);
-constexpr std::uint32_t kCream = rgb(240, 224, 178);
-constexpr std::uint32_t kRed = rgb(214, 40, 46);
-constexpr std::uint32_t kGreen = rgb(22, 138, 70);
+constexpr std::uint32_t kDark = DartsFrame::kDarkSector;
+constexpr std::uint32_t kCream = DartsFrame::kCreamSector;
+constexpr std::uint32_t kRed = DartsFrame::kRedRing;
+constexpr std::uint32_t kGreen = DartsFrame::kGreenRing;
 constexpr std::uint32_t kSurround = rgb(22, 22, 22);
 constexpr std::uint32_t kWood = rgb(112, 72, 36);
 constexpr std::uint32_t kWire = rgb(196, 196, 200);
@@ -30,12 +29,6 @@ constexpr double kDegree = 3.14159265358979323846 / 180;
 
 // Right-hand panel.
 constexpr int kPanelLeft = 9150, kPanelWidth = 3200;
-
-// A number's sector is dark when it stands at an even place clockwise from the top (the 20 is).
-bool darkSector(int clockwiseIndex)
-{
-    return clockwiseIndex % 2 == 0;
-}
 
 Control &styled(Control &c, double points, bool bold, Align align, std::uint32_t ink)
 {
@@ -139,7 +132,7 @@ void DartsFrame::drawBoard()
             continue;
         }
         for (int i = 0; i < 20; ++i) {
-            const bool dark = darkSector(i);
+            const bool dark = darkSector(kClockwiseFromTop[std::size_t(i)]);
             const std::uint32_t fill =
                 ring.bed == Bed::Single ? (dark ? kDark : kCream) : (dark ? kRed : kGreen);
             // Pies count degrees counter-clockwise from 3 o'clock; the numbers go clockwise
@@ -166,6 +159,12 @@ void DartsFrame::drawBoard()
         d.line(cx + inner * std::sin(a), cy - inner * std::cos(a), cx + 2500 * std::sin(a),
                cy - 2500 * std::cos(a), kWire, 10);
     }
+}
+
+bool DartsFrame::darkSector(int number)
+{
+    const auto at = std::find(kClockwiseFromTop.begin(), kClockwiseFromTop.end(), number);
+    return (at - kClockwiseFromTop.begin()) % 2 == 0;
 }
 
 Control &DartsFrame::panelLabel(std::string name, std::string caption, int top, int height,

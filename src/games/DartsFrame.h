@@ -27,6 +27,15 @@ public:
     static constexpr int kDartsPerTurn = 3;
     static constexpr int kStartScore = 301;
 
+    // Board colours: the sectors alternate dark and cream; a scoring ring is red on a dark
+    // sector and green on a cream one. The bull is red, the outer bull green.
+    static constexpr std::uint32_t kDarkSector = rgb(36, 32, 33);
+    static constexpr std::uint32_t kCreamSector = rgb(240, 224, 178);
+    static constexpr std::uint32_t kRedRing = rgb(214, 40, 46);
+    static constexpr std::uint32_t kGreenRing = rgb(22, 138, 70);
+    // The 20 is dark, and every other number clockwise from it.
+    static bool darkSector(int number);
+
     // Texts of the rules.
     static constexpr const char *kBust = "You've bust !!. Your darts will not count.";
     static constexpr const char *kNeedsDouble =

@@ -1,0 +1,200 @@
+// The two-player darts matches on the three boards: names, the number of games, turns passing
+// between the players, legs and the match.
+#include "games/DartBoard.h"
+#include "games/DartsCheckout.h"
+#include "games/DartsFrame.h"
+#include "games/dart.h"
+#include "support/Driver.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace nb::test {
+namespace {
+
+using namespace darts;
+
+const char *const kName1 = "Player 1 please enter your name (maximum 8 letters).";
+const char *const kName2 = "Player 2 please enter your name (maximum 8 letters).";
+const char *const kLegs = "What number of games will be needed to win ?.";
+
+const PointTw kT20{5940, 2480}, kT7 = bedAimPoint(false, 7, Bed::Treble), kD20{5940, 1380},
+                                kMiss{DartsFrame::kBoardLeft + 30, DartsFrame::kBoardTop + 30};
+
+class DartMatch : public ::testing::Test
+{
+protected:
+    void start(const std::string &screen, int legs)
+    {
+        d.open(screen);
+        d.platform.queueInput("Ann");
+        d.platform.queueInput("Bob");
+        d.platform.queueInput(std::to_string(legs));
+        d.click("Command1");
+        d.front().ctl("scroller").value = 0;
+        d.app.change(d.front(), "scroller");
+    }
+    // One dart at a point, answered right in the thrower's own box.
+    void dart(PointTw p)
+    {
+        ASSERT_TRUE(d.pressAt(p.x, p.y));
+        for (auto [box, label] : {std::pair{"newtarget", "target"}, {"newtargetcom", "targetcom"}})
+            if (d.reachable(box)) {
+                const int left = std::stoi(d.caption(label));
+                d.typeEnter(box, std::to_string(left - shownScore()));
+            }
+    }
+    int shownScore()
+    {
+        static const std::map<std::string, int> times = {
+            {"Single", 1}, {"Double", 2}, {"Treble", 3},         {"Quad", 4},
+            {"Bull", 1},   {"Missed", 0}, {"Outer bullseye", 1},
+        };
+        const std::string n = d.caption("text2");
+        return times.at(d.caption("text1")) * (n.empty() ? 0 : std::stoi(n));
+    }
+    void turn(PointTw a, PointTw b, PointTw c)
+    {
+        dart(a);
+        dart(b);
+        dart(c);
+        ASSERT_TRUE(d.timerOn("Timer1")); // a short pause before the other player
+        d.tick("Timer1");
+    }
+    Driver d;
+};
+
+TEST_F(DartMatch, LongNamesAndBadNumbersOfGamesAreAskedAgain)
+{
+    d.open("dart");
+    for (const char *reply : {"Alexandrina", "  Zoë  ", "Christopher", "Nikolaus", "0", "-2",
+                              "three", "1000", "2.5", "10", " 3 "})
+        d.platform.queueInput(reply);
+    d.click("Command1");
+    std::vector<std::string> asked;
+    for (const Shown &s : d.platform.shown)
+        asked.push_back(s.text);
+    const std::string rule = Dart::kLegsRule;
+    EXPECT_EQ(asked, std::vector<std::string>({kName1, kName1, kName2, kName2, kLegs, rule, kLegs,
+                                               rule, kLegs, rule, kLegs, rule, kLegs, rule, kLegs,
+                                               rule, kLegs}));
+    EXPECT_EQ(d.caption("player1"), "Zoë");
+    EXPECT_EQ(d.caption("player2"), "Nikolaus");
+    EXPECT_EQ(d.caption("legsinfo"), "First to 3 games wins the match.");
+    EXPECT_EQ(d.caption("text3"), "Zoë, throw dart 1: click on the board.");
+    EXPECT_EQ(d.caption("player1score") + d.caption("player2score"), "00");
+}
+
+TEST_F(DartMatch, CancellingAQuestionStartsNoGame)
+{
+    for (int answered = 0; answered < 3; ++answered) {
+        Driver drv;
+        drv.open("quaddarts");
+        const char *replies[] = {"Ann", "Bob", "2"};
+        for (int i = 0; i < answered; ++i)
+            drv.platform.queueInput(replies[i]);
+        drv.platform.queueInput("");
+        drv.click("Command1");
+        ASSERT_TRUE(drv.pressAt(kT20.x, kT20.y));
+        EXPECT_FALSE(drv.visible("arrow", 0)) << answered;
+        EXPECT_EQ(drv.caption("text3"), "Press START to begin.");
+    }
+}
+
+TEST_F(DartMatch, PlayersTakeTurnsInTheirOwnBoxesAndWinLegsAndTheMatch)
+{
+    start("dart", 2);
+    turn(kT20, kT20, kT20); // Ann: 121
+    EXPECT_EQ(d.caption("target"), "121");
+    EXPECT_EQ(d.caption("text3"), "Bob, throw dart 1: click on the board.");
+    ASSERT_TRUE(d.pressAt(kMiss.x, kMiss.y));
+    EXPECT_FALSE(d.reachable("newtarget"));
+    EXPECT_EQ(d.front().focusName(), "newtargetcom");
+    d.typeEnter("newtargetcom", "301");
+    dart(kMiss);
+    dart(kMiss);
+    // Between turns the board takes no darts.
+    ASSERT_TRUE(d.pressAt(kT20.x, kT20.y));
+    EXPECT_EQ(d.caption("text3"), "Wait a moment: Ann throws next.");
+    d.tick("Timer1");
+    dart(kT20);
+    dart(kT7);
+    dart(kD20); // out: the first leg is Ann's
+    EXPECT_EQ(d.platform.lastMessage(), "Ann is the winner of that leg!!");
+    EXPECT_EQ(d.caption("player1score"), "1");
+    EXPECT_EQ(d.caption("target") + d.caption("targetcom"), "301301");
+    // Bob throws first in the second leg.
+    EXPECT_EQ(d.caption("text3"), "Bob, throw dart 1: click on the board.");
+    turn(kMiss, kMiss, kMiss);
+    turn(kT20, kT20, kT20);
+    turn(kMiss, kMiss, kMiss);
+    d.platform.queueNo();
+    dart(kT20);
+    dart(kT7);
+    dart(kD20);
+    std::vector<std::string> last;
+    for (std::size_t i = d.platform.shown.size() - 3; i < d.platform.shown.size(); ++i)
+        last.push_back(d.platform.shown[i].text);
+    EXPECT_EQ(last, std::vector<std::string>({"Ann is the winner of that leg!!",
+                                              "Ann has won by 2 games to 0",
+                                              "Do you want another game ?"}));
+    EXPECT_EQ(d.frontName(), "pairmenu");
+}
+
+TEST_F(DartMatch, YesToAnotherGameAsksEverythingAgainAndExitLeaves)
+{
+    start("doubledarts", 1);
+    turn(kT20, kT20, kT20); // no trebles on this board: three single 20s
+    EXPECT_EQ(d.caption("target"), "241");
+    turn(kMiss, kMiss, kMiss);
+    turn(kD20, kD20, kD20); // 121
+    turn(kMiss, kMiss, kMiss);
+    turn(kD20, kD20, kD20); // 121
+    turn(kMiss, kMiss, kMiss);
+    turn(kD20, kD20, bedAimPoint(false, 9, Bed::Single)); // 32
+    turn(kMiss, kMiss, kMiss);
+    d.platform.queueYes();
+    for (const char *reply : {"Cat", "Dan", "1"})
+        d.platform.queueInput(reply);
+    dart(bedAimPoint(false, 16, Bed::Double));
+    EXPECT_EQ(d.platform.shown.end()[-5].text, "Ann has won by 1 games to 0");
+    EXPECT_EQ(d.caption("player1"), "Cat");
+    EXPECT_EQ(d.caption("player2"), "Dan");
+    EXPECT_EQ(d.caption("player1score") + d.caption("player2score"), "00");
+    EXPECT_EQ(d.caption("target") + d.caption("targetcom"), "301301");
+    d.click("Command14");
+    EXPECT_EQ(d.frontName(), "pairmenu");
+    EXPECT_FALSE(d.isOpen("doubledarts"));
+}
+
+TEST_F(DartMatch, EachBoardScoresItsOwnRings)
+{
+    struct Case
+    {
+        const char *screen;
+        double r;
+        const char *bed, *number;
+    } cases[] = {
+        {"doubledarts", 1300, "Single", "6"},  {"doubledarts", 150, "Single", "6"},
+        {"quaddarts", 900, "Quad", "6"},       {"quaddarts", 1600, "Treble", "6"},
+        {"quaddarts", 1300, "Single", "6"},    {"dart", 1300, "Treble", "6"},
+        {"dart", 150, "Outer bullseye", "25"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(std::string(c.screen) + " " + std::to_string(c.r));
+        Driver drv;
+        drv.open(c.screen);
+        drv.platform.queueInput("Ann");
+        drv.platform.queueInput("Bob");
+        drv.platform.queueInput("1");
+        drv.click("Command1");
+        drv.front().ctl("scroller").value = 0;
+        ASSERT_TRUE(drv.pressAt(kCentreX + c.r, kCentreY));
+        EXPECT_EQ(drv.caption("text1"), c.bed);
+        EXPECT_EQ(drv.caption("text2"), c.number);
+    }
+}
+
+} // namespace
+} // namespace nb::test
