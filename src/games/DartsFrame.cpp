@@ -44,7 +44,8 @@ Control &styled(Control &c, double points, bool bold, Align align, std::uint32_t
 DartsFrame::DartsFrame(App &app, BoardKind kind, std::string exitTo)
     : Screen(app)
     , kind_(kind)
-    , sides_{Side{"target", "newtarget", rgb(255, 230, 0)}, Side{"targetcom", "", rgb(0, 200, 255)}}
+    , sides_{Side{"you", "target", "newtarget", rgb(255, 230, 0)},
+             Side{"com", "targetcom", "", rgb(0, 200, 255)}}
     , exitTo_(std::move(exitTo))
 {
     setSize(kWidth, kHeight);
@@ -68,6 +69,13 @@ void DartsFrame::buildBoard()
         styled(n, 13, true, Align::Center, colors::white).mouseTransparent = true;
     }
 
+    // A dart stands in the board at each mark, its point on the mark's middle.
+    for (int i = 0; i < kDartsPerTurn; ++i) {
+        Control &dart = canvas("dartpic", 0, 0, kDartPicture, kDartPicture);
+        dart.index = i;
+        dart.visible = false;
+        dart.mouseTransparent = true;
+    }
     // The dart marks, placed by their top-left corner: the middle of a mark is on the drawn
     // board exactly where the dart is scored.
     for (int i = 0; i < kDartsPerTurn; ++i) {
@@ -167,6 +175,28 @@ bool DartsFrame::darkSector(int number)
     return (at - kClockwiseFromTop.begin()) % 2 == 0;
 }
 
+// A dart seen from the side, leaning up and to the right from its point at the bottom-left
+// corner of its canvas: steel point, barrel, shaft and two flights in the thrower's colour.
+void DartsFrame::drawDart(Drawing &d, std::uint32_t flights)
+{
+    d.clear();
+    const double k = std::sqrt(0.5);
+    // t runs along the dart from the point, w across it.
+    const auto at = [k](double t, double w) {
+        return PointTw{(t + w) * k, kDartPicture - (t - w) * k};
+    };
+    const auto along = [&](double t0, double t1, double half, std::uint32_t fill) {
+        d.polygon({at(t0, -half), at(t1, -half), at(t1, half), at(t0, half)}, fill, rgb(30, 30, 30),
+                  8);
+    };
+    along(0, 240, 12, rgb(200, 200, 210));
+    along(240, 560, 42, rgb(90, 92, 104));
+    along(560, 760, 16, flights);
+    for (double side : {-1.0, 1.0})
+        d.polygon({at(680, 0), at(880, 160 * side), at(1000, 160 * side), at(1000, 0)}, flights,
+                  rgb(30, 30, 30), 8);
+}
+
 Control &DartsFrame::panelLabel(std::string name, std::string caption, int top, int height,
                                 double points)
 {
@@ -214,9 +244,9 @@ void DartsFrame::onChange(const std::string &name, int)
 void DartsFrame::showWobble()
 {
     const int v = ctl("scroller").value;
-    caption("text4") = v == 0 ? "Your dart lands exactly where you click."
-                              : "Wobble " + std::to_string(v) +
-                                    ": your darts land a little way from your click.";
+    caption("text4") =
+        v == 0 ? "Your dart lands exactly where you click."
+               : "Wobble " + std::to_string(v) + ": your darts land a little way from your click.";
 }
 
 void DartsFrame::onMouseDown(const MousePress &press)
@@ -282,11 +312,18 @@ Hit DartsFrame::landDart(double x, double y)
 {
     const Hit hit = classify(kind_, x, y, number_);
     number_ = hit.number;
+    const std::uint32_t colour = sides_[std::size_t(thrower_)].markColor;
     Control &mark = ctl("arrow", dart_);
     mark.left = int(std::lround(x));
     mark.top = int(std::lround(y));
-    mark.backColor = sides_[std::size_t(thrower_)].markColor;
+    mark.backColor = colour;
     mark.visible = true;
+    Control &dart = ctl("dartpic", dart_);
+    if (dart.drawing.ops.empty() || dart.drawing.ops.back().fillColor != colour)
+        drawDart(dart.drawing, colour);
+    dart.left = mark.left + int(kMarkSize) / 2;
+    dart.top = mark.top + int(kMarkSize) / 2 - kDartPicture;
+    dart.visible = true;
     caption("text1") = std::string(bedName(hit.bed));
     if (hit.hasNumber)
         caption("text2") = std::to_string(hit.number);
@@ -367,9 +404,16 @@ void DartsFrame::setRemaining(int side, int value)
     caption(sides_[std::size_t(side)].scoreLabel) = std::to_string(value);
 }
 
-void DartsFrame::beginTurn(int side)
+void DartsFrame::setThrower(int side)
 {
     thrower_ = side;
+    for (std::size_t i = 0; i < sides_.size(); ++i)
+        ctl(sides_[i].nameLabel).foreColor = int(i) == side ? kYellowText : kChalk;
+}
+
+void DartsFrame::beginTurn(int side)
+{
+    setThrower(side);
     dart_ = 0;
     turnStart_ = sides_[std::size_t(side)].remaining;
     hideMarks();
@@ -384,8 +428,10 @@ void DartsFrame::beginTurn(int side)
 
 void DartsFrame::hideMarks()
 {
-    for (int i = 0; i < kDartsPerTurn; ++i)
+    for (int i = 0; i < kDartsPerTurn; ++i) {
         setVisible("arrow", false, i);
+        setVisible("dartpic", false, i);
+    }
 }
 
 void DartsFrame::clearBed()

@@ -53,10 +53,11 @@ protected:
         Pausing,  // between turns, or the computer throwing: the board takes no darts
     };
 
-    // One side of the game: the label showing its score left, the box it types in (empty for
-    // the computer) and the colour of its dart marks.
+    // One side of the game: the label with its name (lit while it throws), the one showing its
+    // score left, the box it types in (empty for the computer) and the colour of its darts.
     struct Side
     {
+        std::string nameLabel;
         std::string scoreLabel;
         std::string answerBox;
         std::uint32_t markColor;
@@ -81,7 +82,8 @@ protected:
     Control &answerBox(std::string name, std::string spoken, int top);
 
     void setRemaining(int side, int value);
-    void beginTurn(int side); // the side throws its three darts from now
+    void beginTurn(int side);  // the side throws its three darts from now
+    void setThrower(int side); // whose marks and name light up
     // A dart lands: its mark moves there and the board names its bed. Returns the hit.
     darts::Hit landDart(double x, double y);
     void hideMarks();
@@ -100,6 +102,8 @@ protected:
 
 private:
     void buildBoard();
+    static void drawDart(Drawing &d, std::uint32_t flights);
+    static constexpr int kDartPicture = 850; // twips square
     void drawBoard();
     void throwAt(double x, double y);
     void submit(std::string &text);

@@ -34,6 +34,8 @@ constexpr std::uint32_t kChalk = rgb(255, 250, 235);
 Dart::Dart(App &app, BoardKind kind)
     : DartsFrame(app, kind, "pairmenu")
 {
+    sides_[0].nameLabel = "player1";
+    sides_[1].nameLabel = "player2";
     sides_[1].answerBox = "newtargetcom";
     const auto block = [this](int player, int top) {
         const std::string n = std::to_string(player);

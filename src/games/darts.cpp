@@ -102,7 +102,7 @@ void Darts::tick()
 void Darts::computerDart()
 {
     if (computerDarts_ == 0) {
-        thrower_ = 1;
+        setThrower(1);
         dart_ = 0;
         turnStart_ = sides_[1].remaining;
         hideMarks();
