@@ -1,6 +1,7 @@
+#include "games/GameScreens.h"
+
 #include "games/dart.h"
 #include "games/darts.h"
-#include "shell/AllScreens.h"
 
 #include <memory>
 
