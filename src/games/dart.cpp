@@ -74,48 +74,52 @@ std::string Dart::pauseHint() const
     return "Wait a moment: " + names_[std::size_t(1 - thrower_)] + " throws next.";
 }
 
-// Asked again while the name is too long; an empty answer (Cancel) gives up the new game.
-bool Dart::askName(int player)
+// Asked again while the name is too long; an empty answer (Cancel) gives up.
+std::optional<std::string> Dart::askName(int player)
 {
     const std::string prompt = "Player " + std::to_string(player) +
                                " please enter your name (maximum " +
                                std::to_string(kMaxNameLetters) + " letters).";
-    std::string name;
-    do {
-        name = trimmed(platform().inputBox(prompt, {}, names_[std::size_t(player - 1)]));
+    for (;;) {
+        std::string name =
+            trimmed(platform().inputBox(prompt, {}, names_[std::size_t(player - 1)]));
         if (name.empty())
-            return false;
-    } while (letters(name) > kMaxNameLetters);
-    names_[std::size_t(player - 1)] = name;
-    return true;
+            return std::nullopt;
+        if (letters(name) <= kMaxNameLetters)
+            return name;
+    }
 }
 
 // A whole number from 1 to 9; anything else is explained and asked again. Empty gives up.
-bool Dart::askLegs()
+std::optional<int> Dart::askLegs()
 {
     for (;;) {
         const std::string text = trimmed(
             platform().inputBox("What number of games will be needed to win ?.", {},
                                 legsToWin_ > 0 ? std::to_string(legsToWin_) : std::string()));
         if (text.empty())
-            return false;
+            return std::nullopt;
         const double n = readNumber(text);
-        if (isCleanNumberText(text) && n >= 1 && n <= kMostLegs && n == double(int(n))) {
-            legsToWin_ = int(n);
-            return true;
-        }
+        if (isCleanNumberText(text) && n >= 1 && n <= kMostLegs && n == double(int(n)))
+            return int(n);
         tell(kLegsRule);
     }
 }
 
+// The questions come first: a Cancel on any of them leaves a game in play as it was.
 void Dart::start()
 {
-    resetBoard();
-    if (!askName(1) || !askName(2) || !askLegs()) {
-        setStatus("Press START to begin: each player types a name, then the number of games "
-                  "needed to win.");
+    std::optional<std::string> first, second;
+    std::optional<int> legs;
+    if (!(first = askName(1)) || !(second = askName(2)) || !(legs = askLegs())) {
+        if (phase_ == Phase::Waiting)
+            setStatus("Press START to begin: each player types a name, then the number of "
+                      "games needed to win.");
         return;
     }
+    resetBoard();
+    names_ = {*first, *second};
+    legsToWin_ = *legs;
     caption("player1") = names_[0];
     caption("player2") = names_[1];
     legs_ = {0, 0};

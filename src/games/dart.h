@@ -6,6 +6,7 @@
 #include "games/DartsFrame.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace nb {
@@ -27,8 +28,8 @@ private:
     std::string pauseHint() const override;
     std::string throwerCall() const override;
 
-    bool askName(int player);
-    bool askLegs();
+    std::optional<std::string> askName(int player);
+    std::optional<int> askLegs();
     void beginLeg();
 
     std::array<std::string, 2> names_;

@@ -86,7 +86,7 @@ TEST_F(DartMatch, LongNamesAndBadNumbersOfGamesAreAskedAgain)
     EXPECT_EQ(d.caption("player1score") + d.caption("player2score"), "00");
 }
 
-TEST_F(DartMatch, CancellingAQuestionStartsNoGame)
+TEST_F(DartMatch, CancellingAQuestionStartsNoGameAndStopsNone)
 {
     for (int answered = 0; answered < 3; ++answered) {
         Driver drv;
@@ -100,6 +100,16 @@ TEST_F(DartMatch, CancellingAQuestionStartsNoGame)
         EXPECT_FALSE(drv.visible("arrow", 0)) << answered;
         EXPECT_EQ(drv.caption("text3"), "Press START to begin.");
     }
+    // START in the middle of a game, then Cancel: the game goes on as it was.
+    start("quaddarts", 2);
+    dart(kT20);
+    d.platform.queueInput("Cat");
+    d.platform.queueInput("");
+    d.click("Command1");
+    EXPECT_EQ(d.caption("player1"), "Ann");
+    EXPECT_EQ(d.caption("text3"), "Ann, throw dart 2: click on the board.");
+    dart(kT20);
+    EXPECT_TRUE(d.visible("arrow", 1));
 }
 
 TEST_F(DartMatch, PlayersTakeTurnsInTheirOwnBoxesAndWinLegsAndTheMatch)
