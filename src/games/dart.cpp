@@ -1,6 +1,7 @@
 #include "games/dart.h"
 
 #include "activity/Ask.h"
+#include "core/Input.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
 
@@ -9,15 +10,6 @@ namespace nb {
 using namespace darts;
 
 namespace {
-
-// Letters, not bytes: a name such as "Zoë" is three letters long.
-std::size_t letters(const std::string &s)
-{
-    std::size_t n = 0;
-    for (unsigned char c : s)
-        n += (c & 0xC0) != 0x80;
-    return n;
-}
 
 std::string trimmed(const std::string &s)
 {
@@ -85,7 +77,7 @@ std::optional<std::string> Dart::askName(int player)
             trimmed(platform().inputBox(prompt, {}, names_[std::size_t(player - 1)]));
         if (name.empty())
             return std::nullopt;
-        if (letters(name) <= kMaxNameLetters)
+        if (utf8Length(name) <= kMaxNameLetters) // letters, not bytes: "Zoë" has three
             return name;
     }
 }

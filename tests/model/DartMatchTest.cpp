@@ -1,5 +1,6 @@
 // The two-player darts matches on the three boards: names, the number of games, turns passing
 // between the players, legs and the match.
+#include "DartsTestSupport.h"
 #include "games/DartBoard.h"
 #include "games/DartsCheckout.h"
 #include "games/DartsFrame.h"
@@ -7,8 +8,6 @@
 #include "support/Driver.h"
 
 #include <gtest/gtest.h>
-
-#include <map>
 
 namespace nb::test {
 namespace {
@@ -22,37 +21,27 @@ const char *const kLegs = "What number of games will be needed to win ?.";
 const PointTw kT20{5940, 2480}, kT7 = bedAimPoint(false, 7, Bed::Treble), kD20{5940, 1380},
                                 kMiss{DartsFrame::kBoardLeft + 30, DartsFrame::kBoardTop + 30};
 
+// Ann and Bob play for a number of games, with no wobble.
+void startMatch(Driver &d, const std::string &screen, int legs)
+{
+    d.open(screen);
+    for (const std::string &reply : {std::string("Ann"), std::string("Bob"), std::to_string(legs)})
+        d.platform.queueInput(reply);
+    d.click("Command1");
+    setWobble(d, 0);
+}
+
 class DartMatch : public ::testing::Test
 {
 protected:
-    void start(const std::string &screen, int legs)
-    {
-        d.open(screen);
-        d.platform.queueInput("Ann");
-        d.platform.queueInput("Bob");
-        d.platform.queueInput(std::to_string(legs));
-        d.click("Command1");
-        d.front().ctl("scroller").value = 0;
-        d.app.change(d.front(), "scroller");
-    }
+    void start(const std::string &screen, int legs) { startMatch(d, screen, legs); }
     // One dart at a point, answered right in the thrower's own box.
     void dart(PointTw p)
     {
         ASSERT_TRUE(d.pressAt(p.x, p.y));
         for (auto [box, label] : {std::pair{"newtarget", "target"}, {"newtargetcom", "targetcom"}})
-            if (d.reachable(box)) {
-                const int left = std::stoi(d.caption(label));
-                d.typeEnter(box, std::to_string(left - shownScore()));
-            }
-    }
-    int shownScore()
-    {
-        static const std::map<std::string, int> times = {
-            {"Single", 1}, {"Double", 2}, {"Treble", 3},         {"Quad", 4},
-            {"Bull", 1},   {"Missed", 0}, {"Outer bullseye", 1},
-        };
-        const std::string n = d.caption("text2");
-        return times.at(d.caption("text1")) * (n.empty() ? 0 : std::stoi(n));
+            if (d.reachable(box))
+                d.typeEnter(box, std::to_string(std::stoi(d.caption(label)) - shownScore(d)));
     }
     void turn(PointTw a, PointTw b, PointTw c)
     {
@@ -88,18 +77,16 @@ TEST_F(DartMatch, LongNamesAndBadNumbersOfGamesAreAskedAgain)
 
 TEST_F(DartMatch, CancellingAQuestionStartsNoGameAndStopsNone)
 {
-    for (int answered = 0; answered < 3; ++answered) {
-        Driver drv;
-        drv.open("quaddarts");
-        const char *replies[] = {"Ann", "Bob", "2"};
-        for (int i = 0; i < answered; ++i)
-            drv.platform.queueInput(replies[i]);
-        drv.platform.queueInput("");
-        drv.click("Command1");
-        ASSERT_TRUE(drv.pressAt(kT20.x, kT20.y));
-        EXPECT_FALSE(drv.visible("arrow", 0)) << answered;
-        EXPECT_EQ(drv.caption("text3"), "Press START to begin.");
-    }
+    // Cancel at the last question: no game, and the board says how to start one.
+    Driver fresh;
+    fresh.open("quaddarts");
+    for (const char *reply : {"Ann", "Bob", ""})
+        fresh.platform.queueInput(reply);
+    fresh.click("Command1");
+    EXPECT_EQ(fresh.caption("player1"), "Player 1");
+    ASSERT_TRUE(fresh.pressAt(kT20.x, kT20.y));
+    EXPECT_FALSE(fresh.visible("arrow", 0));
+    EXPECT_EQ(fresh.caption("text3"), "Press START to begin.");
     // START in the middle of a game, then Cancel: the game goes on as it was.
     start("quaddarts", 2);
     dart(kT20);
@@ -112,7 +99,7 @@ TEST_F(DartMatch, CancellingAQuestionStartsNoGameAndStopsNone)
     EXPECT_TRUE(d.visible("arrow", 1));
 }
 
-TEST_F(DartMatch, PlayersTakeTurnsInTheirOwnBoxesAndWinLegsAndTheMatch)
+TEST_F(DartMatch, PlayersTakeTurnsInTheirOwnBoxesAndWinLegsTheMatchAndAnother)
 {
     start("dart", 2);
     turn(kT20, kT20, kT20); // Ann: 121
@@ -139,43 +126,25 @@ TEST_F(DartMatch, PlayersTakeTurnsInTheirOwnBoxesAndWinLegsAndTheMatch)
     turn(kMiss, kMiss, kMiss);
     turn(kT20, kT20, kT20);
     turn(kMiss, kMiss, kMiss);
-    d.platform.queueNo();
+    // Yes to another game: the questions again, and a new match.
+    d.platform.queueYes();
+    for (const char *reply : {"Cat", "Dan", "1"})
+        d.platform.queueInput(reply);
     dart(kT20);
     dart(kT7);
     dart(kD20);
     std::vector<std::string> last;
-    for (std::size_t i = d.platform.shown.size() - 3; i < d.platform.shown.size(); ++i)
-        last.push_back(d.platform.shown[i].text);
+    for (auto it = d.platform.shown.end() - 6; it != d.platform.shown.end() - 3; ++it)
+        last.push_back(it->text);
     EXPECT_EQ(last, std::vector<std::string>({"Ann is the winner of that leg!!",
                                               "Ann has won by 2 games to 0",
                                               "Do you want another game ?"}));
-    EXPECT_EQ(d.frontName(), "pairmenu");
-}
-
-TEST_F(DartMatch, YesToAnotherGameAsksEverythingAgainAndExitLeaves)
-{
-    start("doubledarts", 1);
-    turn(kT20, kT20, kT20); // no trebles on this board: three single 20s
-    EXPECT_EQ(d.caption("target"), "241");
-    turn(kMiss, kMiss, kMiss);
-    turn(kD20, kD20, kD20); // 121
-    turn(kMiss, kMiss, kMiss);
-    turn(kD20, kD20, kD20); // 121
-    turn(kMiss, kMiss, kMiss);
-    turn(kD20, kD20, bedAimPoint(false, 9, Bed::Single)); // 32
-    turn(kMiss, kMiss, kMiss);
-    d.platform.queueYes();
-    for (const char *reply : {"Cat", "Dan", "1"})
-        d.platform.queueInput(reply);
-    dart(bedAimPoint(false, 16, Bed::Double));
-    EXPECT_EQ(d.platform.shown.end()[-5].text, "Ann has won by 1 games to 0");
-    EXPECT_EQ(d.caption("player1"), "Cat");
-    EXPECT_EQ(d.caption("player2"), "Dan");
+    EXPECT_EQ(d.caption("player1") + d.caption("player2"), "CatDan");
     EXPECT_EQ(d.caption("player1score") + d.caption("player2score"), "00");
     EXPECT_EQ(d.caption("target") + d.caption("targetcom"), "301301");
     d.click("Command14");
     EXPECT_EQ(d.frontName(), "pairmenu");
-    EXPECT_FALSE(d.isOpen("doubledarts"));
+    EXPECT_FALSE(d.isOpen("dart"));
 }
 
 TEST_F(DartMatch, EachBoardScoresItsOwnRings)
@@ -194,12 +163,7 @@ TEST_F(DartMatch, EachBoardScoresItsOwnRings)
     for (const Case &c : cases) {
         SCOPED_TRACE(std::string(c.screen) + " " + std::to_string(c.r));
         Driver drv;
-        drv.open(c.screen);
-        drv.platform.queueInput("Ann");
-        drv.platform.queueInput("Bob");
-        drv.platform.queueInput("1");
-        drv.click("Command1");
-        drv.front().ctl("scroller").value = 0;
+        startMatch(drv, c.screen, 1);
         ASSERT_TRUE(drv.pressAt(kCentreX + c.r, kCentreY));
         EXPECT_EQ(drv.caption("text1"), c.bed);
         EXPECT_EQ(drv.caption("text2"), c.number);
