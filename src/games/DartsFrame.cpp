@@ -69,18 +69,16 @@ void DartsFrame::buildBoard()
         styled(n, 13, true, Align::Center, colors::white).mouseTransparent = true;
     }
 
-    // A dart stands in the board at each mark, its point on the mark's middle.
+    // The dart marks, placed by their top-left corner: the middle of a mark is on the drawn
+    // board exactly where the dart is scored. A mark is clear; what shows is the dart standing
+    // in the board with its point, a small dot in the thrower's colour, on the mark's middle.
+    // A square mark would spill over the edge of a narrow ring and seem to lie in it.
     for (int i = 0; i < kDartsPerTurn; ++i) {
         Control &dart = canvas("dartpic", 0, 0, kDartPicture, kDartPicture);
         dart.index = i;
         dart.visible = false;
         dart.mouseTransparent = true;
-    }
-    // The dart marks, placed by their top-left corner: the middle of a mark is on the drawn
-    // board exactly where the dart is scored.
-    for (int i = 0; i < kDartsPerTurn; ++i) {
         Control &m = label("arrow", "", 0, 0, int(kMarkSize), int(kMarkSize), i);
-        m.border = true;
         m.visible = false;
         m.mouseTransparent = true;
     }
@@ -175,15 +173,16 @@ bool DartsFrame::darkSector(int number)
     return (at - kClockwiseFromTop.begin()) % 2 == 0;
 }
 
-// A dart seen from the side, leaning up and to the right from its point at the bottom-left
-// corner of its canvas: steel point, barrel, shaft and two flights in the thrower's colour.
+// A dart seen from the side, leaning up and to the right from its point near the bottom-left
+// corner of its canvas: steel point, barrel, shaft and two flights in the thrower's colour, and
+// a dot of that colour where the point goes in.
 void DartsFrame::drawDart(Drawing &d, std::uint32_t flights)
 {
     d.clear();
     const double k = std::sqrt(0.5);
     // t runs along the dart from the point, w across it.
     const auto at = [k](double t, double w) {
-        return PointTw{(t + w) * k, kDartPicture - (t - w) * k};
+        return PointTw{kDartPoint + (t + w) * k, kDartPicture - kDartPoint - (t - w) * k};
     };
     const auto along = [&](double t0, double t1, double half, std::uint32_t fill) {
         d.polygon({at(t0, -half), at(t1, -half), at(t1, half), at(t0, half)}, fill, rgb(30, 30, 30),
@@ -195,6 +194,8 @@ void DartsFrame::drawDart(Drawing &d, std::uint32_t flights)
     for (double side : {-1.0, 1.0})
         d.polygon({at(680, 0), at(880, 160 * side), at(1000, 160 * side), at(1000, 0)}, flights,
                   rgb(30, 30, 30), 8);
+    const PointTw tip = at(0, 0);
+    d.ellipse(tip.x - 36, tip.y - 36, tip.x + 36, tip.y + 36, flights, rgb(20, 20, 20), 10);
 }
 
 Control &DartsFrame::panelLabel(std::string name, std::string caption, int top, int height,
@@ -316,13 +317,12 @@ Hit DartsFrame::landDart(double x, double y)
     Control &mark = ctl("arrow", dart_);
     mark.left = int(std::lround(x));
     mark.top = int(std::lround(y));
-    mark.backColor = colour;
     mark.visible = true;
     Control &dart = ctl("dartpic", dart_);
     if (dart.drawing.ops.empty() || dart.drawing.ops.back().fillColor != colour)
         drawDart(dart.drawing, colour);
-    dart.left = mark.left + int(kMarkSize) / 2;
-    dart.top = mark.top + int(kMarkSize) / 2 - kDartPicture;
+    dart.left = mark.left + int(kMarkSize) / 2 - kDartPoint;
+    dart.top = mark.top + int(kMarkSize) / 2 - (kDartPicture - kDartPoint);
     dart.visible = true;
     caption("text1") = std::string(bedName(hit.bed));
     if (hit.hasNumber)

@@ -103,7 +103,8 @@ protected:
 private:
     void buildBoard();
     static void drawDart(Drawing &d, std::uint32_t flights);
-    static constexpr int kDartPicture = 850; // twips square
+    static constexpr int kDartPicture = 920; // twips square
+    static constexpr int kDartPoint = 60;    // the point, in from the bottom-left corner
     void drawBoard();
     void throwAt(double x, double y);
     void submit(std::string &text);

@@ -109,6 +109,11 @@ TEST_F(DartsPlay, TheDartLandsExactlyTheWobbleTimesFiftyAwayInTheDrawnDirection)
         EXPECT_TRUE(mark.visible);
         EXPECT_EQ(mark.left, kT20.x + c.dx);
         EXPECT_EQ(mark.top, kT20.y + c.dy);
+        // The dart's point (its dot) stands on the mark's middle.
+        const Control &pic = drv.control("dartpic", 0);
+        const auto &dot = pic.drawing.ops.back().points;
+        EXPECT_EQ(pic.left + (dot[0].x + dot[1].x) / 2, mark.left + kMarkSize / 2);
+        EXPECT_EQ(pic.top + (dot[0].y + dot[1].y) / 2, mark.top + kMarkSize / 2);
         // The bed shown is the landing point's, not the click's.
         const Hit h = classify(BoardKind::Standard, mark.left, mark.top, 0);
         EXPECT_EQ(drv.caption("text1"), bedName(h.bed));
