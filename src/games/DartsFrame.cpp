@@ -287,18 +287,15 @@ void DartsFrame::throwAt(double x, double y)
     const double d = ctl("scroller").value * 50.0;
     const Hit hit = landDart(x + sx * d, y + sy * d);
     Side &side = sides_[std::size_t(thrower_)];
-    switch (judge(side.remaining, hit)) {
-    case Verdict::Bust:
-    case Verdict::NeedsDouble:
-        tell(judge(side.remaining, hit) == Verdict::Bust ? kBust : kNeedsDouble);
+    const Verdict verdict = judge(side.remaining, hit);
+    if (verdict == Verdict::Bust || verdict == Verdict::NeedsDouble) {
+        // The message shows with the dart still named; the turn's darts then go back.
+        tell(verdict == Verdict::Bust ? kBust : kNeedsDouble);
         setRemaining(thrower_, turnStart_);
         clearBed();
         phase_ = Phase::Pausing;
         turnOver();
         return;
-    case Verdict::Counts:
-    case Verdict::Finish:
-        break;
     }
     expected_ = side.remaining - hit.score();
     phase_ = Phase::Typing;

@@ -122,10 +122,11 @@ void Darts::computerDart()
                     " round!! Do you want another game ?");
         return;
     }
+    // Leaving 1, going below 0, or reaching 0 off a double (the bull too) is a bust for it.
     if (d >= left - 1) {
-        setRemaining(1, turnStart_);
         computerBust_ = true;
         tell("The computer has bust !!. The darts will not count.");
+        setRemaining(1, turnStart_);
         return;
     }
     setRemaining(1, left - d);
