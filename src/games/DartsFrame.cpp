@@ -14,8 +14,6 @@ using namespace darts;
 namespace {
 
 constexpr std::uint32_t kWall = rgb(30, 84, 72);
-constexpr std::uint32_t kChalk = rgb(255, 250, 235);
-constexpr std::uint32_t kYellowText = rgb(255, 222, 89);
 
 constexpr std::uint32_t kDark = DartsFrame::kDarkSector;
 constexpr std::uint32_t kCream = DartsFrame::kCreamSector;
@@ -29,15 +27,6 @@ constexpr double kDegree = 3.14159265358979323846 / 180;
 
 // Right-hand panel.
 constexpr int kPanelLeft = 9150, kPanelWidth = 3200;
-
-Control &styled(Control &c, double points, bool bold, Align align, std::uint32_t ink)
-{
-    c.font.points = points;
-    c.font.bold = bold;
-    c.align = align;
-    c.foreColor = ink;
-    return c;
-}
 
 } // namespace
 
@@ -165,6 +154,15 @@ void DartsFrame::drawBoard()
         d.line(cx + inner * std::sin(a), cy - inner * std::cos(a), cx + 2500 * std::sin(a),
                cy - 2500 * std::cos(a), kWire, 10);
     }
+}
+
+Control &DartsFrame::styled(Control &c, double points, bool bold, Align align, std::uint32_t ink)
+{
+    c.font.points = points;
+    c.font.bold = bold;
+    c.align = align;
+    c.foreColor = ink;
+    return c;
 }
 
 bool DartsFrame::darkSector(int number)

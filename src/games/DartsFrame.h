@@ -76,6 +76,11 @@ protected:
     // "click on the board" is put after this, for the one whose turn it is.
     virtual std::string throwerCall() const = 0;
 
+    // The darts screens' own look: white chalk and yellow on a green wall.
+    static constexpr std::uint32_t kChalk = rgb(255, 250, 235);
+    static constexpr std::uint32_t kYellowText = rgb(255, 222, 89);
+    static Control &styled(Control &c, double points, bool bold, Align align, std::uint32_t ink);
+
     // Building: the left-hand panel block of one side.
     Control &panelLabel(std::string name, std::string caption, int top, int height, double points);
     Control &scoreBoard(std::string name, int top);

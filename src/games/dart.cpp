@@ -19,8 +19,6 @@ std::string trimmed(const std::string &s)
     return s.substr(first, s.find_last_not_of(" \t") - first + 1);
 }
 
-constexpr std::uint32_t kChalk = rgb(255, 250, 235);
-
 } // namespace
 
 Dart::Dart(App &app, BoardKind kind)
@@ -32,15 +30,10 @@ Dart::Dart(App &app, BoardKind kind)
     const auto block = [this](int player, int top) {
         const std::string n = std::to_string(player);
         panelLabel("player" + n, "Player " + n, top, 500, 18);
-        Control &won = label("wonlabel", "Games won", 250, top + 560, 1550, 420, player - 1);
-        won.font.points = 12;
-        won.font.bold = true;
-        won.foreColor = kChalk;
-        won.align = Align::Right;
-        Control &legs = label("player" + n + "score", "0", 1900, top + 520, 750, 500);
-        legs.font.points = 18;
-        legs.font.bold = true;
-        legs.align = Align::Center;
+        styled(label("wonlabel", "Games won", 250, top + 560, 1550, 420, player - 1), 12, true,
+               Align::Right, kChalk);
+        Control &legs = styled(label("player" + n + "score", "0", 1900, top + 520, 750, 500), 18,
+                               true, Align::Center, colors::black);
         legs.backColor = rgb(255, 222, 89);
         legs.border = true;
         scoreBoard(player == 1 ? "target" : "targetcom", top + 1100);
@@ -49,11 +42,7 @@ Dart::Dart(App &app, BoardKind kind)
     };
     block(1, 250);
     block(2, 3350);
-    Control &info = label("legsinfo", "", 9150, 250, 3200, 1100);
-    info.font.points = 14;
-    info.font.bold = true;
-    info.align = Align::Center;
-    info.foreColor = rgb(255, 222, 89);
+    styled(label("legsinfo", "", 9150, 250, 3200, 1100), 14, true, Align::Center, kYellowText);
 }
 
 std::string Dart::throwerCall() const

@@ -15,7 +15,6 @@ using namespace darts;
 namespace {
 constexpr const char *kRoundNames[Darts::kRounds] = {"First",   "Second",  "Third", "Fourth",
                                                      "Q-Final", "S-Final", "Final"};
-constexpr std::uint32_t kChalk = rgb(255, 250, 235);
 } // namespace
 
 const char *Darts::roundName(int round)
@@ -32,16 +31,8 @@ Darts::Darts(App &app)
     panelLabel("com", "COMPUTER", 3300, 450, 18);
     scoreBoard("targetcom", 3800);
 
-    Control &heading = label("Text5", "ROUND", 9150, 250, 3200, 450);
-    heading.font.points = 16;
-    heading.font.bold = true;
-    heading.align = Align::Center;
-    heading.foreColor = kChalk;
-    Control &name = label("text6", "", 9150, 700, 3200, 650);
-    name.font.points = 24;
-    name.font.bold = true;
-    name.align = Align::Center;
-    name.foreColor = rgb(255, 222, 89);
+    styled(label("Text5", "ROUND", 9150, 250, 3200, 450), 16, true, Align::Center, kChalk);
+    styled(label("text6", "", 9150, 700, 3200, 650), 24, true, Align::Center, kYellowText);
 }
 
 void Darts::onOpened()
