@@ -2,6 +2,8 @@
 
 #include "games/dart.h"
 #include "games/darts.h"
+#include "games/fourinarow.h"
+#include "games/twoplayerfourinarow.h"
 
 #include <memory>
 
@@ -16,6 +18,8 @@ void registerGameScreens(ScreenRegistry &registry)
                  [](App &a) { return std::make_unique<Dart>(a, darts::BoardKind::Doubles); });
     registry.add("quaddarts", "Darts: Quads",
                  [](App &a) { return std::make_unique<Dart>(a, darts::BoardKind::Quads); });
+    registry.add<FourInARow>("fourinarow", "Four in a row");
+    registry.add<TwoPlayerFourInARow>("twoplayerfourinarow", "Two-player four in a row");
 }
 
 } // namespace nb
