@@ -184,6 +184,8 @@ TEST_F(DartsPlay, BadInputIsExplainedAndChangesNothing)
 
 TEST_F(DartsPlay, TheComputerThrowsOneDartPerTickAndTheBoardWaits)
 {
+    // The board is drawn once: darts move marks over it and never redraw it.
+    const std::uint64_t drawn = d.control("board").drawing.revision;
     turn({kOffBoard, kOffBoard, kOffBoard});
     EXPECT_TRUE(d.timerOn("Timer1"));
     EXPECT_EQ(marksShown(), 3); // the pupil's last darts stay until the computer throws
@@ -205,6 +207,7 @@ TEST_F(DartsPlay, TheComputerThrowsOneDartPerTickAndTheBoardWaits)
     EXPECT_EQ(d.caption("text1"), "");
     dart(kT20);
     EXPECT_EQ(left(), 241);
+    EXPECT_EQ(d.control("board").drawing.revision, drawn);
 }
 
 TEST_F(DartsPlay, BustsRestoreTheTurnAndFinishesNeedADoubleOrTheBull)
