@@ -251,7 +251,9 @@ void DartsFrame::showWobble()
 void DartsFrame::onMouseDown(const MousePress &press)
 {
     // A press anywhere on the board (or on a mark or number over it) throws there; off the
-    // board's face the dart misses.
+    // board's face the dart misses. Presses on the labels around it throw nothing.
+    if (press.name != "board")
+        return;
     switch (phase_) {
     case Phase::Waiting:
         setStatus("Press START to begin.");

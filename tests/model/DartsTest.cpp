@@ -138,7 +138,10 @@ TEST_F(DartsPlay, BadInputIsExplainedAndChangesNothing)
     ASSERT_TRUE(fresh.pressAt(kT20.x, kT20.y)); // before START
     EXPECT_EQ(fresh.caption("text3"), "Press START to begin.");
     EXPECT_FALSE(fresh.visible("arrow", 0));
-    EXPECT_FALSE(d.pressAt(200, 200)); // the wall takes no presses
+    EXPECT_FALSE(d.pressAt(200, 200)); // the wall takes no presses, nor do the labels
+    d.mouseDown("target", 100, 100);
+    d.mouseDown("text1", 100, 100);
+    EXPECT_EQ(marksShown(), 0);
 
     d.screenKey(13); // Enter before any dart: nothing is thrown, the pupil is told what to do
     EXPECT_EQ(d.caption("text3"), "Throw a dart first: click on the board where you want it "
