@@ -74,13 +74,6 @@ TEST(DartBoard, RingEdgesBelongToTheRingOutside)
     EXPECT_EQ(hitAt(BoardKind::Standard, at(2600, 90), 6).score(), 0);
 }
 
-TEST(DartBoard, EveryNumberAtItsSectorCentre)
-{
-    for (std::size_t i = 0; i < kClockwiseFromTop.size(); ++i)
-        EXPECT_EQ(hitAt(BoardKind::Standard, at(1850, double(i) * 18)).number,
-                  kClockwiseFromTop[i]);
-}
-
 TEST(DartBoard, SectorLinesUseThePiOf3142AndALineKeepsTheNumberBefore)
 {
     // Exactly on a line: no number. A hair either side: the two neighbours.
