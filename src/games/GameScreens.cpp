@@ -1,10 +1,12 @@
 #include "shell/AllScreens.h"
 
+#include "games/twoplayersnap.h"
+
 namespace nb {
 
 void registerGameScreens(ScreenRegistry &registry)
 {
-    (void)registry;
+    registry.add<TwoPlayerSnap>("twoplayersnap", "snap");
 }
 
 } // namespace nb
