@@ -19,11 +19,14 @@ constexpr std::array<Suit, 4> kSuits = {{{"snap_heart.svg", rgb(190, 25, 40)},
                                          {"snap_diamond.svg", rgb(190, 25, 40)},
                                          {"snap_club.svg", rgb(30, 36, 48)}}};
 
-// Share of the card's width kept clear of text on each side, and the pip size.
-constexpr double kSideMargin = 0.09;
-constexpr double kPip = 0.16;
+// Shares of the card's width: where the drawn card ends (its shadow lies beyond), the frame's
+// distance from the edge, the pip size and the clear space between the text and the frame.
+constexpr double kCardRight = 0.968;
+constexpr double kFrameInset = 0.06;
+constexpr double kPip = 0.15;
+constexpr double kTextMargin = 0.05;
 // A character of the caption font is taken as this many ems wide (digits and signs in bold).
-constexpr double kCharEms = 0.62;
+constexpr double kCharEms = 0.56;
 constexpr double kMaxPoints = 40;
 
 std::size_t characters(const std::string &s)
@@ -45,15 +48,17 @@ void drawFace(Drawing &d, double w, double h, int card, const std::string &capti
     const Suit &suit = kSuits[std::size_t(card / 4 % 4)];
     d.clear();
     d.image(0, 0, w, h, "snap_card.svg");
-    // A thin frame in the suit's colour, clear of the corner pips.
-    const double pip = w * kPip, inset = w * 0.07;
-    d.rect(inset + pip * 0.6, inset + pip * 0.6, w - inset - pip * 0.6 - w * 0.03,
-           h - inset - pip * 0.6 - w * 0.03, rgb(255, 253, 247), suit.ink, 20);
-    d.image(inset * 0.6, inset * 0.6, inset * 0.6 + pip, inset * 0.6 + pip, suit.picture);
-    d.image(w - inset * 0.9 - pip, h - inset * 0.9 - pip, w - inset * 0.9, h - inset * 0.9,
-            suit.picture);
-    d.text(0, h * 0.3, w - w * 0.03, h * 0.7, caption, suit.ink,
-           fittingPoints(caption, w * (1 - 2 * kSideMargin), kMaxPoints), true);
+    // The picture's card stops short of its right and bottom edges, where its shadow falls.
+    const double right = w * kCardRight, bottom = h - w * (1 - kCardRight);
+    // A thin frame in the suit's colour with a pip in two of its corners.
+    const double inset = w * kFrameInset, pip = w * kPip, gap = w * 0.03;
+    d.rect(inset, inset, right - inset, bottom - inset, rgb(255, 253, 247), suit.ink, 20);
+    d.image(inset + gap, inset + gap, inset + gap + pip, inset + gap + pip, suit.picture);
+    d.image(right - inset - gap - pip, bottom - inset - gap - pip, right - inset - gap,
+            bottom - inset - gap, suit.picture);
+    const double room = right - 2 * inset - 2 * w * kTextMargin;
+    d.text(inset, h * 0.3, right - inset, h * 0.7, caption, suit.ink,
+           fittingPoints(caption, room, kMaxPoints), true);
 }
 
 void drawPlace(Drawing &d, double w, double h)

@@ -36,6 +36,7 @@ const std::string kPlayerBox[2] = {"player1", "player2"};
 const std::string kNameLabel[2] = {"player1label", "player2label"};
 const std::string kScore[2] = {"p1score", "p2score"};
 const std::string kPoint[2] = {"p1point", "p2point"};
+const std::string kHint[2] = {"p1hint", "p2hint"};
 
 Control &styled(Control &c, double points, bool bold, Align align, std::uint32_t ink)
 {
@@ -125,6 +126,9 @@ void TwoPlayerSnap::buildPlayerPanel(int player, int left)
                            left + 250, kPanelTop + 250, kPanelWidth - 500, 700);
     styled(box, 18, true, Align::Center, colors::black);
     box.visible = false;
+    Control &hint =
+        label(kHint[p], "Then press Enter.", left + 100, kPanelTop + 1000, kPanelWidth - 200, 440);
+    styled(hint, 13, false, Align::Center, kChalk).visible = false;
 
     // The key, drawn as a key cap.
     Control &key = label(player ? "Label2" : "key1", player ? "Key : L" : "Key : A", left + 450,
@@ -190,6 +194,7 @@ void TwoPlayerSnap::askName(int player)
     box.visible = true;
     box.enabled = true;
     setVisible(kNameLabel[std::size_t(player)], false);
+    setVisible(kHint[std::size_t(player)], true);
     setFocus(box.name);
 }
 
@@ -224,6 +229,7 @@ void TwoPlayerSnap::acceptName(int player)
     names_[p] = name;
     box.visible = false;
     box.enabled = false;
+    setVisible(kHint[p], false);
     Control &shown = ctl(kNameLabel[p]);
     shown.caption = name;
     shown.font.points = snap::fittingPoints(name, shown.width - 100, 24);
