@@ -1,4 +1,4 @@
-#include "shell/AllScreens.h"
+#include "games/GameScreens.h"
 
 #include "games/twoplayersnap.h"
 

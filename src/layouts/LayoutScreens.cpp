@@ -1,4 +1,4 @@
-#include "shell/AllScreens.h"
+#include "layouts/LayoutScreens.h"
 
 namespace nb {
 

@@ -1,5 +1,6 @@
+#include "puzzles/PuzzleScreens.h"
+
 #include "puzzles/factor.h"
-#include "shell/AllScreens.h"
 
 namespace nb {
 

@@ -209,14 +209,20 @@ void Factor::onOpened()
 {
     drawScenery();
     const double best = progress().FactorBest.number();
-    std::string level = "1";
+    double level = 1;
     if (best > 0) {
         const std::string next = numberText(best + 1);
         if (ask("You have reached level " + next +
                 " before, would you like to go straight to this level now?") == kYes)
-            level = next;
+            level = best + 1;
     }
-    caption("level") = level;
+    setLevel(level);
+}
+
+void Factor::setLevel(double level)
+{
+    level_ = level;
+    caption("level") = numberText(level);
 }
 
 int Factor::moveInterval(double level)
@@ -231,7 +237,7 @@ int Factor::moveInterval(double level)
 
 double Factor::levelValue() const
 {
-    return readNumber(ctl("level").caption);
+    return level_;
 }
 
 int Factor::ask(const std::string &text)
@@ -400,7 +406,7 @@ bool Factor::computerMove()
 void Factor::won()
 {
     setTimer("compmover", false);
-    const std::string level = caption("level");
+    const std::string level = numberText(level_);
     // The last level won is kept, even when an earlier run had reached a higher one.
     progress().FactorBest = Value::int16(std::int16_t(roundHalfEven(levelValue())));
     if (ask("Well done, you have won level " + level + ". Do you want to try the next level ?") !=
@@ -408,7 +414,7 @@ void Factor::won()
         leave();
         return;
     }
-    caption("level") = numberText(levelValue() + 1);
+    setLevel(level_ + 1);
     resetRace();
     clearBoxes();
     newNumber();
@@ -416,7 +422,7 @@ void Factor::won()
 
 void Factor::lost()
 {
-    if (ask("You have lost on level " + caption("level") + ". Do you want to try again ?") !=
+    if (ask("You have lost on level " + numberText(level_) + ". Do you want to try again ?") !=
         kYes) {
         leave();
         return;

@@ -51,7 +51,10 @@ private:
     void openBox(int k);
     int ask(const std::string &text);
     double levelValue() const;
+    // The level of the race, kept as a number and shown in the `level` label.
+    void setLevel(double level);
 
+    double level_ = 1;
     int number_ = 0;
     int factorCount_ = 0;
     int currentBox_ = 1;

@@ -1,5 +1,7 @@
-#include "shell/AllScreens.h"
+#include "shell/ShellScreens.h"
+
 #include "shell/addmenu.h"
+#include "shell/besttimes.h"
 #include "shell/cover.h"
 #include "shell/divmenu.h"
 #include "shell/mainmenu.h"
@@ -18,6 +20,7 @@ void registerShellScreens(ScreenRegistry &registry)
     registry.add<MulMenu>("mulmenu", "Multiplication Menu");
     registry.add<DivMenu>("divmenu", "Division Menu");
     registry.add<PairMenu>("pairmenu", "2 player games");
+    registry.add<BestTimes>("besttimes", "Best times");
 }
 
 } // namespace nb

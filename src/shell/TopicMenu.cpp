@@ -36,6 +36,19 @@ void TopicMenu::buildFrame(const std::string &heading, std::uint32_t theme)
     exit.backColor = rgb(250, 150, 150);
 }
 
+void TopicMenu::addEntries(MenuLayout &grid, const std::vector<Entry> &entries)
+{
+    for (const Entry &e : entries) {
+        grid.button(e.control, e.caption, e.column, e.row, e.index);
+        addAction({e.control, e.index, e.readsOptions, e.sets, e.target});
+    }
+}
+
+std::function<void(PupilProgress &)> TopicMenu::searchCaller(int caller)
+{
+    return [caller](PupilProgress &p) { p.SearchCaller = Value::int16(std::int16_t(caller)); };
+}
+
 void TopicMenu::addOption(Control &box, Value PupilProgress::*flag)
 {
     options_.push_back({box.name, flag});

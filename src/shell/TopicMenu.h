@@ -11,6 +11,8 @@
 
 namespace nb {
 
+class MenuLayout;
+
 class TopicMenu : public Screen
 {
 public:
@@ -28,6 +30,21 @@ public:
         std::string target;                        // screen to hand over to; empty = stay
     };
 
+    // One button of the menu, written once: its control, caption, place on the menu's grid,
+    // the screen it opens (empty: it stays on the menu), whether it reads the option boxes first,
+    // and what it sets in PupilProgress.
+    struct Entry
+    {
+        std::string control;
+        std::string caption;
+        int column = 0;
+        int row = 0;
+        std::string target;
+        bool readsOptions = false;
+        std::function<void(PupilProgress &)> sets = {};
+        int index = -1;
+    };
+
     explicit TopicMenu(App &app);
 
     void onOpened() override;
@@ -38,6 +55,10 @@ protected:
     void buildFrame(const std::string &heading, std::uint32_t theme);
     void addOption(Control &box, Value PupilProgress::*flag);
     void addAction(Action action) { actions_.push_back(std::move(action)); }
+    // Lays out each entry's button on the menu's grid and adds its action.
+    void addEntries(MenuLayout &grid, const std::vector<Entry> &entries);
+    // What the search buttons set: which operation the search screens use.
+    static std::function<void(PupilProgress &)> searchCaller(int caller);
     // EXIT: back to the main menu.
     virtual void exitMenu();
 

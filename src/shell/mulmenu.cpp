@@ -11,9 +11,13 @@ MulMenu::MulMenu(App &app)
     MenuLayout grid(*this);
     addOption(grid.option("equationneg", "Negatives", 0), &PupilProgress::MulNegatives);
 
-    grid.button("Command4", "Times tables", 0, 0);
-    grid.button("Command3", "MAKE ?", 0, 1);
-    grid.button("Command11", "Mental times", 0, 2);
+    addEntries(grid, {
+                         {"Command4", "Times tables", 0, 0, "mul11", true},
+                         {"Command3", "MAKE ?", 0, 1, "maketentimes", true},
+                         {"Command11", "Mental times", 0, 2, "mentmul", true},
+                         {"Command8", "Times search", 2, 0, "search", false, searchCaller(3)},
+                         {"Command9", "Perfection", 2, 1, "perfection"},
+                     });
 
     // The written methods as a small table: one row per size of sum, one column per method.
     constexpr int methodLeft = 600;
@@ -46,15 +50,6 @@ MulMenu::MulMenu(App &app)
             addAction({buttons[row][col], -1, false, {}, targets[row][col]});
         }
     }
-    grid.button("Command8", "Times search", 2, 0);
-    grid.button("Command9", "Perfection", 2, 1);
-
-    addAction({"Command4", -1, true, {}, "mul11"});
-    addAction({"Command3", -1, true, {}, "maketentimes"});
-    addAction({"Command11", -1, true, {}, "mentmul"});
-    addAction({"Command8", -1, false, [](PupilProgress &p) { p.SearchCaller = Value::int16(3); },
-               "search"});
-    addAction({"Command9", -1, false, {}, "perfection"});
 }
 
 } // namespace nb

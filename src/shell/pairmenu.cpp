@@ -31,29 +31,22 @@ PairMenu::PairMenu(App &app)
     MenuLayout grid(*this);
 
     heading(*this, "lblDarts", "Darts", 0, -1);
-    grid.button("Command8", "Trebles", 0, 0);
-    grid.button("Command9", "Doubles", 0, 1);
-    grid.button("Command11", "Quads", 0, 2);
-    addAction({"Command8", -1, false, {}, "dart"});
-    addAction({"Command9", -1, false, {}, "doubledarts"});
-    addAction({"Command11", -1, false, {}, "quaddarts"});
-
     heading(*this, "lblSnap", "Snap", 1, -1);
-    for (int i = 0; i < 3; ++i) {
-        grid.button("snap", "Level " + std::to_string(i + 1), 1, i, i);
-        addAction({"snap", i, false,
-                   [i](PupilProgress &p) { p.SnapOption = Value::int16(std::int16_t(i + 1)); },
-                   "twoplayersnap"});
-    }
-
-    const char *searches[] = {"Add search", "Subtract search", "Times search", "Divide search"};
-    for (int i = 0; i < 4; ++i) {
-        const std::string name = "Command" + std::to_string(i + 1);
-        grid.button(name, searches[i], 2, i);
-        addAction({name, -1, false,
-                   [i](PupilProgress &p) { p.SearchCaller = Value::int16(std::int16_t(i + 1)); },
-                   "search2"});
-    }
+    const auto snap = [](int n) {
+        return [n](PupilProgress &p) { p.SnapOption = Value::int16(std::int16_t(n)); };
+    };
+    addEntries(grid, {
+                         {"Command8", "Trebles", 0, 0, "dart"},
+                         {"Command9", "Doubles", 0, 1, "doubledarts"},
+                         {"Command11", "Quads", 0, 2, "quaddarts"},
+                         {"snap", "Level 1", 1, 0, "twoplayersnap", false, snap(1), 0},
+                         {"snap", "Level 2", 1, 1, "twoplayersnap", false, snap(2), 1},
+                         {"snap", "Level 3", 1, 2, "twoplayersnap", false, snap(3), 2},
+                         {"Command1", "Add search", 2, 0, "search2", false, searchCaller(1)},
+                         {"Command2", "Subtract search", 2, 1, "search2", false, searchCaller(2)},
+                         {"Command3", "Times search", 2, 2, "search2", false, searchCaller(3)},
+                         {"Command4", "Divide search", 2, 3, "search2", false, searchCaller(4)},
+                     });
 
     // Four in a row: pick a level (stays here), then a board picture to start the game.
     heading(*this, "lblFourRow", "Four in a row", 0, 3).width = 2 * MenuLayout::kColumnStep;

@@ -3,7 +3,10 @@
 #include "core/Screen.h"
 #include "ui/ScreenView.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QStackedLayout>
 
 #include <algorithm>
@@ -19,10 +22,12 @@ MainWindow::MainWindow(App &app, QWidget *parent)
     setWindowTitle("NUMBROOK");
     resize(1024, 768);
     app_.setListener(this);
+    qApp->installEventFilter(this);
 }
 
 MainWindow::~MainWindow()
 {
+    qApp->removeEventFilter(this);
     app_.setListener(nullptr);
     for (auto &[screen, view] : views_)
         view->detach();
@@ -82,6 +87,7 @@ void MainWindow::showFront()
     if (stack_->currentWidget() != view) {
         stack_->setCurrentWidget(view);
         focusPending_ = true;
+        ++frontGeneration_;
     }
     setWindowTitle(QString::fromStdString(front->title()));
 }
@@ -141,6 +147,64 @@ void MainWindow::closeEvent(QCloseEvent *e)
     if (!app_.ended())
         app_.endProgram();
     e->accept();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent *e)
+{
+    // Nothing on the screen has the focus: the key is the front screen's.
+    ScreenView *view = frontView();
+    if (!view || !view->screenKey(e))
+        QWidget::keyPressEvent(e);
+}
+
+bool MainWindow::pressBelongsHere(QWidget *target) const
+{
+    // A press a widget ignores travels on to its parents: any of them is the same place.
+    QWidget *pressed = pressedWidget_.data();
+    const bool samePlace = pressed && (target == pressed || target->isAncestorOf(pressed) ||
+                                       pressed->isAncestorOf(target));
+    if (!samePlace || pressedGeneration_ != frontGeneration_)
+        return false;
+    ScreenView *view = frontView();
+    const Control *c = view ? view->controlOf(target) : nullptr;
+    return !c || c->doubleClicks;
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    auto *target = qobject_cast<QWidget *>(watched);
+    if (!target || !isAncestorOf(target))
+        return QWidget::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        // The same press passed on to a parent keeps the widget that took it first.
+        if (pressedWidget_ && target->isAncestorOf(pressedWidget_) &&
+            pressedGeneration_ == frontGeneration_ && !swallowRelease_)
+            break;
+        pressedWidget_ = target;
+        pressedGeneration_ = frontGeneration_;
+        swallowRelease_ = false;
+        break;
+    case QEvent::MouseButtonDblClick:
+        // A double-click's second press arrives as this event. When the first press handed the
+        // front over to another screen, or landed on another control, or the control takes no
+        // double-clicks, the second press and its release do nothing: a quick double press on
+        // START must not also press whatever the next screen has in that place.
+        if (!pressBelongsHere(target)) {
+            swallowRelease_ = true;
+            return true;
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+        if (swallowRelease_) {
+            swallowRelease_ = false;
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace nb::ui

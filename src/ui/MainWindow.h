@@ -4,6 +4,7 @@
 // title is the front screen's title. After every event all open views are brought up to date.
 #include "core/App.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
@@ -57,9 +58,16 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *e) override;
+    void keyPressEvent(QKeyEvent *e) override;
+    // Watches mouse presses in the whole program so that a press counts only on the screen and
+    // the control that were in front when it began (see pressBelongsHere).
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void showFront();
+    // Whether the second press of a double-click may act: only on the widget that took the
+    // first press, on a screen still in front, and on a control that takes double-clicks.
+    bool pressBelongsHere(QWidget *target) const;
 
     App &app_;
     std::function<void()> closeRequest_;
@@ -67,6 +75,11 @@ private:
     std::vector<std::pair<const Screen *, ScreenView *>> views_;
     int pauseDepth_ = 0;
     bool focusPending_ = true;
+    // The widget that took the last mouse press, and the number of front-screen changes then.
+    QPointer<QWidget> pressedWidget_;
+    int pressedGeneration_ = 0;
+    int frontGeneration_ = 0;
+    bool swallowRelease_ = false;
 };
 
 } // namespace nb::ui

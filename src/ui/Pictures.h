@@ -24,6 +24,10 @@ bool paintPicture(QPainter &p, const std::string &name, const QRectF &box);
 // A picture rendered at a size, from a cache shared by every widget (empty when missing).
 QPixmap renderedPicture(const std::string &name, QSize size, qreal ratio, bool &missing);
 
+// Paints a picture at a size from its rendering kept on disk (rendering and keeping it first if
+// needed), holding no memory afterwards. False when there is no disk cache or no such picture.
+bool paintLarge(QPainter &p, const std::string &name, QSize size, qreal ratio, QPointF at);
+
 // One widget's rendered copy of its picture, redrawn only when the name or size changes.
 class CachedPicture
 {

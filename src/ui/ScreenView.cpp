@@ -1,7 +1,9 @@
 #include "ui/ScreenView.h"
 
 #include "core/App.h"
+#include "core/Input.h"
 #include "core/Screen.h"
+#include "ui/ControlChanges.h"
 #include "ui/ControlWidgets.h"
 #include "ui/Look.h"
 #include "ui/MainWindow.h"
@@ -35,71 +37,6 @@ bool isGraphical(ControlKind k)
 {
     return k == ControlKind::Label || k == ControlKind::Image || k == ControlKind::Shape ||
            k == ControlKind::Line || k == ControlKind::Canvas;
-}
-
-Qt::Alignment alignmentOf(Align a)
-{
-    switch (a) {
-    case Align::Center:
-        return Qt::AlignHCenter;
-    case Align::Right:
-        return Qt::AlignRight;
-    case Align::Left:
-        break;
-    }
-    return Qt::AlignLeft;
-}
-
-void setColors(QWidget &w, QPalette::ColorRole backRole, QPalette::ColorRole textRole,
-               std::uint32_t back, std::uint32_t fore, const QColor &defaultBack,
-               const QColor &defaultFore, bool readableWhenDisabled = false)
-{
-    QPalette pal = w.palette();
-    pal.setColor(backRole, colorOr(back, defaultBack));
-    // Disabled text keeps the style's greyed look, except where the text is an answer the pupil
-    // must still read (a box that is finished with shows its digits in full colour).
-    for (QPalette::ColorGroup g : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        if (g != QPalette::Disabled || readableWhenDisabled)
-            pal.setColor(g, textRole, colorOr(fore, defaultFore));
-    if (readableWhenDisabled)
-        pal.setColor(QPalette::Disabled, backRole, colorOr(back, defaultBack));
-    w.setPalette(pal);
-}
-
-void selectRow(QListWidget &w, int row)
-{
-    if (w.currentRow() != row)
-        w.setCurrentRow(row);
-}
-
-void selectRow(QComboBox &w, int row)
-{
-    if (w.currentIndex() != row)
-        w.setCurrentIndex(row);
-}
-
-// A list box or drop-down list: its items, the selected one and its colours.
-template<class W> void showItems(W &w, const Control &c, bool items, bool row, bool colors)
-{
-    const QSignalBlocker quiet(&w);
-    if (items) {
-        QStringList list;
-        for (const std::string &s : c.items)
-            list << qs(s);
-        w.clear();
-        w.addItems(list);
-    }
-    if (row)
-        selectRow(w, c.listIndex);
-    if (colors)
-        setColors(w, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
-                  Qt::black);
-}
-
-// Captions of stock Qt buttons treat '&' as a shortcut marker; ours are plain text.
-QString plainCaption(const std::string &s)
-{
-    return qs(s).replace('&', "&&");
 }
 
 } // namespace
@@ -191,8 +128,8 @@ void ScreenView::make(Bound &b, const Control &c, int slot)
     }
     case ControlKind::TextBox: {
         auto *t = new AnswerBox(*this, slot, this);
-        connect(t, &QLineEdit::textEdited, this,
-                [this, slot](const QString &text) { textEdited(slot, text); });
+        connect(t, &QLineEdit::textChanged, this,
+                [this, slot](const QString &text) { textChanged(slot, text); });
         w = t;
         break;
     }
@@ -283,8 +220,11 @@ void ScreenView::sync()
     if (repaint || relayout_)
         update();
     const auto &controls = screen_->controls();
+    // Text the model writes into its boxes is not the pupil's change to report back.
+    syncing_ = true;
     for (std::size_t i = 0; i < bound_.size(); ++i)
         apply(bound_[i], controls[i], relayout_);
+    syncing_ = false;
     relayout_ = false;
 }
 
@@ -292,160 +232,11 @@ void ScreenView::apply(Bound &b, const Control &c, bool relayout)
 {
     if (b.timer)
         return syncTimer(b, c);
-    Control &l = b.last;
-    const bool fresh = b.fresh;
+    const ControlChanges ch = compareControl(b.last, c, b.fresh, relayout);
     b.fresh = false;
-
-    bool geometry = fresh || relayout;
-    geometry |= changed(l.left, c.left);
-    geometry |= changed(l.top, c.top);
-    geometry |= changed(l.width, c.width);
-    geometry |= changed(l.height, c.height);
-    geometry |= changed(l.x2, c.x2);
-    geometry |= changed(l.y2, c.y2);
-    geometry |= changed(l.lineWidth, c.lineWidth);
-    bool font = fresh || relayout;
-    font |= changed(l.font.family, c.font.family);
-    font |= changed(l.font.points, c.font.points);
-    font |= changed(l.font.bold, c.font.bold);
-    bool colors = fresh;
-    colors |= changed(l.backColor, c.backColor);
-    colors |= changed(l.foreColor, c.foreColor);
-    const bool text = changed(l.caption, c.caption) || fresh;
-    bool look = fresh;
-    look |= changed(l.align, c.align);
-    look |= changed(l.border, c.border);
-    look |= changed(l.shape, c.shape);
-    const bool picture = changed(l.picture, c.picture) || fresh;
-    const bool spoken = changed(l.spokenName, c.spokenName) || fresh;
-    bool range = fresh;
-    range |= changed(l.minimum, c.minimum);
-    range |= changed(l.maximum, c.maximum);
-    const bool value = changed(l.value, c.value) || fresh;
-    const bool items = changed(l.items, c.items) || fresh;
-    const bool row = changed(l.listIndex, c.listIndex) || items;
-
-    QWidget *w = b.widget;
-    if (geometry)
+    if (ch.geometry || (c.kind == ControlKind::Line && ch.colors))
         place(b, c);
-    if (font)
-        w->setFont(makeFont(c.font, scale_));
-    if (changed(l.visible, c.visible) || fresh)
-        w->setVisible(c.visible);
-    if (changed(l.enabled, c.enabled) || fresh)
-        w->setEnabled(c.enabled);
-
-    switch (c.kind) {
-    case ControlKind::Label: {
-        auto *lab = static_cast<QLabel *>(w);
-        if (text) {
-            lab->setText(qs(c.caption));
-            lab->setAccessibleName(qs(c.caption));
-        }
-        if (colors) {
-            setColors(*lab, QPalette::Window, QPalette::WindowText, c.backColor, c.foreColor,
-                      Qt::transparent, Qt::black);
-            lab->setAutoFillBackground(hasColor(c.backColor));
-        }
-        if (look) {
-            lab->setAlignment(alignmentOf(c.align) | Qt::AlignTop);
-            lab->setFrameShape(c.border ? QFrame::Box : QFrame::NoFrame);
-        }
-        break;
-    }
-    case ControlKind::TextBox: {
-        auto *box = static_cast<AnswerBox *>(w);
-        const QString t = qs(c.caption);
-        if (text && box->text() != t) {
-            // Keep the cursor where the pupil left it unless it was at the end.
-            const int pos = box->cursorPosition();
-            const bool atEnd = pos == box->text().size();
-            box->setText(t);
-            if (!atEnd)
-                box->setCursorPosition(std::min(pos, int(t.size())));
-        }
-        if (spoken)
-            box->setAccessibleName(qs(c.spokenName.empty() ? c.name : c.spokenName));
-        if (colors)
-            setColors(*box, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
-                      Qt::black, true);
-        if (look)
-            box->setAlignment(alignmentOf(c.align) | Qt::AlignVCenter);
-        if (changed(l.maxLength, c.maxLength) || fresh)
-            box->setMaxLength(c.maxLength > 0 ? c.maxLength : 32767);
-        break;
-    }
-    case ControlKind::Button:
-    case ControlKind::PictureButton: {
-        auto *fb = static_cast<FaceButton *>(w);
-        if (text) {
-            fb->setCaption(qs(c.caption));
-            fb->setAccessibleName(qs(c.caption));
-        }
-        if (colors)
-            fb->setFace(c.backColor, c.foreColor);
-        if (picture && c.kind == ControlKind::PictureButton)
-            fb->setPicture(c.picture);
-        break;
-    }
-    case ControlKind::CheckBox:
-    case ControlKind::OptionButton: {
-        auto *ab = static_cast<QAbstractButton *>(w);
-        if (text) {
-            ab->setText(plainCaption(c.caption));
-            ab->setAccessibleName(qs(c.caption));
-        }
-        if (value && ab->isChecked() != (c.value != 0)) {
-            const QSignalBlocker quiet(ab);
-            ab->setChecked(c.value != 0);
-        }
-        if (colors) {
-            setColors(*ab, QPalette::Window, QPalette::WindowText, c.backColor, c.foreColor,
-                      Qt::transparent, Qt::black);
-            ab->setAutoFillBackground(hasColor(c.backColor));
-        }
-        break;
-    }
-    case ControlKind::ScrollBar: {
-        auto *sb = static_cast<QScrollBar *>(w);
-        const QSignalBlocker quiet(sb);
-        if (range) {
-            sb->setRange(c.minimum, c.maximum);
-            sb->setPageStep(std::max(1, std::abs(c.maximum - c.minimum) / 10));
-        }
-        if ((value || range) && sb->value() != c.value)
-            sb->setValue(c.value);
-        break;
-    }
-    case ControlKind::Image:
-        if (picture)
-            static_cast<PictureView *>(w)->setPicture(c.picture);
-        break;
-    case ControlKind::Shape:
-        if (colors || look || geometry)
-            static_cast<ShapeView *>(w)->setShape(
-                c.shape, c.backColor, c.foreColor,
-                std::max(1.0, c.lineWidth * scale_ / kTwipsPerPixel));
-        break;
-    case ControlKind::Line:
-        if (colors && !geometry)
-            place(b, c);
-        break;
-    case ControlKind::List:
-        showItems(*static_cast<QListWidget *>(w), c, items, row, colors);
-        break;
-    case ControlKind::ComboBox:
-        showItems(*static_cast<QComboBox *>(w), c, items, row, colors);
-        break;
-    case ControlKind::Canvas: {
-        auto *cv = static_cast<CanvasView *>(w);
-        cv->setDrawing(c.drawing);
-        cv->setLook(c.backColor, c.border, scale_ / kTwipsPerPixel);
-        break;
-    }
-    case ControlKind::Timer:
-        break;
-    }
+    applyControl(*b.widget, c, ch, scale_ / kTwipsPerPixel);
 }
 
 void ScreenView::place(Bound &b, const Control &c)
@@ -583,10 +374,7 @@ void ScreenView::click(int slot)
     Control *c = liveControl(slot);
     if (!c || !c->visible || !c->enabled)
         return;
-    if (c->kind == ControlKind::CheckBox)
-        c->value = c->value ? 0 : 1;
-    else if (c->kind == ControlKind::OptionButton)
-        c->value = 1;
+    applyClick(screen_->controls(), *c);
     const std::string name = c->name;
     app_.click(*screen_, name, c->index);
     window_.afterEvent(true);
@@ -660,10 +448,59 @@ template<class T> void ScreenView::reportChange(int slot, T Control::*field, T v
     window_.afterEvent(false);
 }
 
-void ScreenView::textEdited(int slot, const QString &text)
+void ScreenView::textChanged(int slot, const QString &text)
 {
-    if (!applyingKey_)
+    if (!applyingKey_ && !syncing_)
         reportChange(slot, &Control::caption, text.toStdString());
+}
+
+const Control *ScreenView::controlOf(const QWidget *widget) const
+{
+    if (!screen_ || !widget)
+        return nullptr;
+    for (const Bound &b : bound_)
+        if (b.widget == widget)
+            return screen_->find(b.name, b.index);
+    return nullptr;
+}
+
+bool ScreenView::screenKey(QKeyEvent *e)
+{
+    // A key held down counts once.
+    if (!screen_ || e->isAutoRepeat() || !app_.isLive(*screen_))
+        return false;
+    int code = 0;
+    switch (e->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        code = 13;
+        break;
+    case Qt::Key_Escape:
+        code = 27;
+        break;
+    case Qt::Key_Backspace:
+        code = 8;
+        break;
+    default:
+        if (e->modifiers() & (Qt::ControlModifier | Qt::MetaModifier | Qt::AltModifier))
+            return false;
+        if (const QList<uint> chars = e->text().toUcs4();
+            chars.size() == 1 && chars[0] >= 32 && chars[0] != 127)
+            code = int(chars[0]);
+    }
+    if (code == 0)
+        return false;
+    app_.screenKey(*screen_, code);
+    window_.afterEvent(false);
+    return true;
+}
+
+void ScreenView::keyPressEvent(QKeyEvent *e)
+{
+    // Keys reach the view when the widget with the focus did not take them (a button ignores
+    // letters) or when nothing on the screen has the focus.
+    if (!screenKey(e))
+        QWidget::keyPressEvent(e);
 }
 
 void ScreenView::selectionChanged(int slot, int row)

@@ -51,13 +51,21 @@ public:
     QTimer *timerFor(std::string_view name) const;
     // The screen's area as it is shown now.
     QPixmap snapshot();
+    // The control a widget of this view was made for (nullptr for any other widget or once the
+    // screen has closed).
+    const Control *controlOf(const QWidget *widget) const;
+    // A key that no box took: passed to the screen as a screen-level key. False when the key
+    // means nothing to the screen channel (modifiers alone, function keys, repeats).
+    bool screenKey(QKeyEvent *e);
 
     // Reports from the widgets; each runs one model event and then brings every view up to date.
     void click(int slot);
     void doubleClick(int slot);
     void mouseDown(int slot, QPointF pixels);
     void typeKey(int slot, AnswerBox &box, QKeyEvent *e, int code);
-    void textEdited(int slot, const QString &text);
+    // The box's text changed other than by a key the model saw first (a paste with the mouse,
+    // an on-screen keyboard or a screen reader setting it): the model takes the new text.
+    void textChanged(int slot, const QString &text);
     void selectionChanged(int slot, int row);
     void scrolled(int slot, int value);
     void timerFired(int slot);
@@ -65,6 +73,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override;
     void resizeEvent(QResizeEvent *) override;
+    void keyPressEvent(QKeyEvent *e) override;
 
 private:
     struct Bound
@@ -104,6 +113,7 @@ private:
     bool relayout_ = true;
     bool paused_ = false;
     bool applyingKey_ = false;
+    bool syncing_ = false;
     std::string focusName_;
     int focusIndex_ = -1;
     bool focusDone_ = false;

@@ -1,4 +1,5 @@
-#include "shell/AllScreens.h"
+#include "written/WrittenScreens.h"
+
 #include "written/ADD333.h"
 #include "written/sub33.h"
 #include "written/times.h"

@@ -117,26 +117,22 @@ TEST_F(BestTimes, ValuesShowAsPlainText)
 TEST_F(BestTimes, PrintSaysWhereThePageWentAndExitReturnsToTheMenu)
 {
     const fs::path pdf = docs / "NUMBROOK records" / "Best times Ann Smith.pdf";
-    const struct
-    {
-        PrintOutcome outcome;
-        std::string message;
-    } cases[] = {
-        {{PrintOutcome::Kind::Printed, ""}, "The best times have been sent to the printer."},
-        {{PrintOutcome::Kind::SavedPdf, pdf.string()},
-         "There is no printer, so the best times have been saved as " + pdf.string()},
-        {{PrintOutcome::Kind::Failed, "the printer is out of paper"},
-         "The best times could not be printed: the printer is out of paper"},
-    };
     d.progress().Unsaved = Value::int16(1);
     d.open("mulmenu");
     d.click("Command10");
-    for (const auto &c : cases) {
-        d.platform.setPrintOutcome(c.outcome);
+    // One outcome at a time (a table of outcomes holding strings trips a false GCC warning at -O3).
+    const auto print = [&](PrintOutcome::Kind kind, const std::string &detail,
+                           const std::string &message) {
+        d.platform.setPrintOutcome(PrintOutcome{kind, detail});
         d.click("Command2");
         EXPECT_EQ(d.platform.printed.back(), pdf.string());
-        EXPECT_EQ(d.platform.lastMessage(), c.message);
-    }
+        EXPECT_EQ(d.platform.lastMessage(), message);
+    };
+    print(PrintOutcome::Kind::Printed, "", "The best times have been sent to the printer.");
+    print(PrintOutcome::Kind::SavedPdf, pdf.string(),
+          "There is no printer, so the best times have been saved as " + pdf.string());
+    print(PrintOutcome::Kind::Failed, "the printer is out of paper",
+          "The best times could not be printed: the printer is out of paper");
     EXPECT_TRUE(fs::is_directory(pdf.parent_path()));
     EXPECT_TRUE(d.isOpen("mulmenu"));
     d.click("Command1");

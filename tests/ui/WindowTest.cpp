@@ -7,6 +7,7 @@
 #include "ui/QtPlatform.h"
 #include "ui/ScreenView.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
@@ -46,6 +47,8 @@ public:
         list("slider", 600, 4500, 3000, 300).kind = ControlKind::ScrollBar; // no builder of its own
         image("photo", "no_such_picture.svg", 7400, 3600, 1500, 1500);
         canvas("board", 600, 6300, 4000, 2400).drawing.rect(0, 0, 2000, 1200, colors::white, 0);
+        // A mark over the board that lets presses through to it.
+        label("mark", "x", 2600, 7300, 600, 600).mouseTransparent = true;
         timer("Timer1", 40);
         setFocus("answer");
     }
@@ -89,6 +92,7 @@ public:
         downs.push_back({press.name, press.x, press.y});
     }
     void onTimer(const std::string &) override { ++ticks; }
+    void onScreenKey(int key) override { screenKeys.push_back(key); }
 
     struct Down
     {
@@ -97,6 +101,7 @@ public:
     };
     std::vector<std::string> clicks, seen, changes;
     std::vector<Down> downs;
+    std::vector<int> screenKeys;
     int ticks = 0;
 };
 
@@ -317,6 +322,72 @@ TEST_F(WindowTest, BoxesSeeTheScreenUpToDateAndTimersStandStill)
     const int afterBox = p.ticks;
     QTest::qWait(300);
     EXPECT_GT(p.ticks, afterBox) << "timers run again once the box is answered";
+}
+
+// Keys no box takes reach the screen; a box's keys stay the box's. Presses on a mark over a
+// board reach the board with screen twips. Text put into a box without keys reaches the model.
+TEST_F(WindowTest, ScreenKeysPressesThroughMarksAndTextSetWithoutKeys)
+{
+    Probe &p = open({1600, 1200}); // one pixel is 7.5 twips
+    QTest::keyClick(widget("add"), Qt::Key_A);
+    QKeyEvent shifted(QEvent::KeyPress, Qt::Key_L, Qt::ShiftModifier, "L");
+    QApplication::sendEvent(widget("add"), &shifted);
+    QTest::keyClick(widget("answer"), Qt::Key_B);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_A, {}, "a", true);
+    QApplication::sendEvent(widget("add"), &held);
+    EXPECT_EQ(p.screenKeys, (std::vector<int>{'a', 'L'})) << "held keys count once";
+    EXPECT_EQ(p.ctl("answer").caption, "b");
+
+    QWidget *mark = widget("mark");
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {},
+                      mark->mapTo(&window, QPoint(4, 8)));
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {},
+                        mark->mapTo(&window, QPoint(4, 8)));
+    ASSERT_EQ(p.downs.size(), 1u);
+    EXPECT_EQ(p.downs[0].name, "board");
+    EXPECT_NEAR(p.downs[0].x, 2000 + 30, 8) << "within a pixel";
+    EXPECT_NEAR(p.downs[0].y, 1000 + 60, 8);
+
+    // A screen reader or on-screen keyboard sets the text; a mouse paste inserts it.
+    widget<QLineEdit>("answer")->setText("tom.DAT");
+    EXPECT_EQ(p.ctl("answer").caption, "tom.DAT");
+    widget<QLineEdit>("answer")->insert("X");
+    EXPECT_EQ(p.ctl("answer").caption, "tom.DATX");
+    EXPECT_EQ(p.changes.back(), "answer");
+    // The model's own changes are not reported back as the pupil's.
+    const std::size_t reported = p.changes.size();
+    p.ctl("answer").caption = "from the model";
+    window.syncAll();
+    EXPECT_EQ(p.changes.size(), reported);
+}
+
+// A child double-clicks START: the first click hands over, and the second press lands on
+// whatever the next screen has in that place. It must do nothing there.
+TEST_F(WindowTest, ADoubleClickActsOnlyOnTheScreenItWasMadeOn)
+{
+    open();
+    QWidget *swap = widget("swap");
+    const QPoint at = swap->mapTo(&window, swap->rect().center());
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, at);
+    QCoreApplication::processEvents();
+    ASSERT_NE(app.front(), nullptr);
+    EXPECT_EQ(app.front()->name(), "other");
+    EXPECT_TRUE(static_cast<Probe *>(app.front())->clicks.empty())
+        << "the second press acted on the next screen";
+
+    // On the same screen a double-click is two clicks, unless the control takes no
+    // double-clicks (a game cell): then it is one.
+    Probe &p = *static_cast<Probe *>(app.front());
+    QWidget *add = widget("add");
+    const QPoint addAt = add->mapTo(&window, add->rect().center());
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, addAt);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(p.ctl("score").caption, "2");
+    p.ctl("add").doubleClicks = false;
+    QTest::qWait(QApplication::doubleClickInterval() + 50);
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, addAt);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(p.ctl("score").caption, "3");
 }
 
 TEST_F(WindowTest, ScreensMayCloseInsideTheirOwnEventsAndTheOneBelowIsKept)

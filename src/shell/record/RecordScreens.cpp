@@ -1,5 +1,5 @@
-#include "shell/AllScreens.h"
-#include "shell/besttimes.h"
+#include "shell/record/RecordScreens.h"
+
 #include "shell/record/Filesave.h"
 #include "shell/record/Filesystem.h"
 
@@ -9,7 +9,6 @@ void registerRecordScreens(ScreenRegistry &registry)
 {
     registry.add<Filesave>("Filesave", "SAVE");
     registry.add<Filesystem>("Filesystem", "LOAD");
-    registry.add<BestTimes>("besttimes", "Best times");
 }
 
 } // namespace nb
