@@ -37,6 +37,7 @@ const std::string kNameLabel[2] = {"player1label", "player2label"};
 const std::string kScore[2] = {"p1score", "p2score"};
 const std::string kPoint[2] = {"p1point", "p2point"};
 const std::string kHint[2] = {"p1hint", "p2hint"};
+const std::string kSaid[2] = {"p1said", "p2said"};
 
 Control &styled(Control &c, double points, bool bold, Align align, std::uint32_t ink)
 {
@@ -147,6 +148,10 @@ void TwoPlayerSnap::buildPlayerPanel(int player, int left)
         shape(kPoint[p], ShapeKind::Oval, kPanel, kGold, first + i * (kDot + kGap),
               kPanelTop + 4600, kDot, kDot, i)
             .lineWidth = 30;
+
+    // What the last call earned, until the next card comes.
+    styled(label(kSaid[p], "", left + 100, kPanelTop + 5150, kPanelWidth - 200, 700), 20, true,
+           Align::Center, kGold);
 }
 
 int TwoPlayerSnap::dealInterval(int level)
@@ -248,6 +253,7 @@ void TwoPlayerSnap::newGame()
 {
     points_ = {0, 0};
     showScores();
+    showCallResult(-1, false);
     const snap::Draw draw = [this] { return this->draw(); };
     deck_.make(level_, draw);
     deck_.shuffle(draw);
@@ -263,6 +269,7 @@ void TwoPlayerSnap::onTimer(const std::string &name)
 {
     if (name != "Timer1" || stage_ != Stage::Dealing)
         return;
+    showCallResult(-1, false);
     if (dealt_ == snap::kCards)
         reshuffle();
     else
@@ -324,6 +331,7 @@ void TwoPlayerSnap::call(int player)
         platform().beep();
     ++points_[std::size_t(scorer)];
     showScores();
+    showCallResult(player, right);
     if (points_[std::size_t(scorer)] >= kWinningPoints) {
         won(scorer);
         return;
@@ -379,6 +387,25 @@ void TwoPlayerSnap::showCards()
             : snap::kCards - dealt_;
     caption("cardsleft") = left == 1 ? "1 card to deal" : std::to_string(left) + " cards to deal";
     setVisible("Image1", left > 0);
+}
+
+void TwoPlayerSnap::showCallResult(int caller, bool right)
+{
+    for (int p = 0; p < 2; ++p) {
+        Control &said = ctl(kSaid[std::size_t(p)]);
+        said.caption.clear();
+        said.foreColor = kGold;
+        if (caller < 0)
+            continue;
+        if (p == caller && right) {
+            said.caption = "SNAP!  +1";
+        } else if (p == caller) {
+            said.caption = "Not a snap!";
+            said.foreColor = rgb(255, 160, 150);
+        } else if (!right) {
+            said.caption = "+1";
+        }
+    }
 }
 
 void TwoPlayerSnap::showScores()

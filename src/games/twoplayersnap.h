@@ -57,6 +57,8 @@ private:
     void leave();
     void showCards();
     void showScores();
+    // Marks what a call earned in the players' panels (caller -1 clears them).
+    void showCallResult(int caller, bool right);
     void restartDealing();
     bool within(std::chrono::system_clock::time_point since, std::chrono::milliseconds span,
                 std::chrono::system_clock::time_point now) const;

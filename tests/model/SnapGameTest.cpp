@@ -180,10 +180,17 @@ TEST_F(Snap, ARightCallBeepsAndScoresForTheCallerAndAWrongOneForTheOther)
         EXPECT_EQ(game().points(1 - c.scorer), before[std::size_t(1 - c.scorer)]);
         EXPECT_EQ(d.caption(c.scorer ? "p2score" : "p1score"),
                   (c.scorer ? "Bob : " : "Ann : ") + std::to_string(game().points(c.scorer)));
+        // Each panel says what the call earned until the next card comes.
+        const std::string caller = c.key == 'a' || c.key == 'A' ? "p1said" : "p2said";
+        const std::string other = caller == "p1said" ? "p2said" : "p1said";
+        EXPECT_EQ(d.caption(caller), c.snapping ? "SNAP!  +1" : "Not a snap!");
+        EXPECT_EQ(d.caption(other), c.snapping ? "" : "+1");
         // The next card comes at once and stays for a whole interval.
         EXPECT_EQ(game().cardsDealt(), dealt + 1);
         EXPECT_EQ(game().cardOnShow(0), justDealt);
         EXPECT_EQ(d.control("Timer1").timerRestarts, restarts + 1);
+        d.tick("Timer1");
+        EXPECT_EQ(d.caption(caller) + d.caption(other), "");
     }
     EXPECT_EQ(scores(), std::make_pair(std::string("Ann : 4"), std::string("Bob : 4")));
 }
