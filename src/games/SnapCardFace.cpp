@@ -29,17 +29,18 @@ constexpr double kTextMargin = 0.05;
 constexpr double kCharEms = 0.56;
 constexpr double kMaxPoints = 40;
 
-std::size_t characters(const std::string &s)
-{
-    return std::size_t(std::count_if(
-        s.begin(), s.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 } // namespace
+
+int characterCount(const std::string &text)
+{
+    return int(std::count_if(text.begin(), text.end(), [](char c) {
+        return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+    }));
+}
 
 double fittingPoints(const std::string &text, double width, double maxPoints)
 {
-    const double n = double(std::max<std::size_t>(1, characters(text)));
+    const double n = std::max(1, characterCount(text));
     return std::min(maxPoints, width / (n * kCharEms * 20));
 }
 

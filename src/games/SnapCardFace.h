@@ -15,6 +15,9 @@ void drawFace(Drawing &d, double w, double h, int card, const std::string &capti
 // Replaces the drawing with an empty place on the table, where a card will lie.
 void drawPlace(Drawing &d, double w, double h);
 
+// How many characters a UTF-8 text has (a name's length in letters, a caption's width).
+int characterCount(const std::string &text);
+
 // The largest text size (points), at most maxPoints, at which a line of text in the caption font
 // fits across width twips.
 double fittingPoints(const std::string &text, double width, double maxPoints);

@@ -57,12 +57,6 @@ std::string trimmed(const std::string &s)
     return s.substr(first, s.find_last_not_of(' ') - first + 1);
 }
 
-int letters(const std::string &s)
-{
-    return int(std::count_if(
-        s.begin(), s.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 } // namespace
 
 TwoPlayerSnap::TwoPlayerSnap(App &app)
@@ -75,8 +69,11 @@ TwoPlayerSnap::TwoPlayerSnap(App &app)
 
 void TwoPlayerSnap::buildControls()
 {
-    Control &instruct = label("instruct", "Press START to play.", 300, 150, kWidth - 600, 1100);
+    Control &instruct = label("instruct", "Press START to play.", 300, 150, kWidth - 600, 600);
     styled(instruct, 20, true, Align::Center, kChalk);
+    // The rule of the game, under the instruction once the game is under way.
+    Control &rule = label("rule", "", 300, 750, kWidth - 600, 500);
+    styled(rule, 15, true, Align::Center, kGold);
 
     for (int p = 0; p < 2; ++p)
         buildPlayerPanel(p, kPanelLeft[std::size_t(p)]);
@@ -224,7 +221,7 @@ void TwoPlayerSnap::acceptName(int player)
     const std::string name = trimmed(box.caption);
     if (name.empty())
         return; // Enter on an empty box: the box waits for a name
-    if (letters(name) > kLongestName) {
+    if (snap::characterCount(name) > kLongestName) {
         stage_ = Stage::Boxed;
         tell(platform(), progress(), "You must use less than 15 letters.");
         stage_ = player == 0 ? Stage::Naming1 : Stage::Naming2;
@@ -245,7 +242,8 @@ void TwoPlayerSnap::acceptName(int player)
         return;
     }
     setFocus("start");
-    caption("instruct") = "First to get 5 points wins.\nPress your key to call SNAP!";
+    caption("rule") = "First to get 5 points wins.";
+    caption("instruct") = "Press your key to call SNAP!";
     newGame();
 }
 

@@ -127,7 +127,8 @@ TEST_F(Snap, NamesMustBeShorterThanFifteenLettersAndNotBlank)
     EXPECT_EQ(d.caption("instruct"), "Player 2, enter your name.");
     d.typeEnter("player2", "Lalalalala");
     EXPECT_EQ(d.caption("p2score"), "Lalalalala : 0");
-    EXPECT_EQ(d.caption("instruct"), "First to get 5 points wins.\nPress your key to call SNAP!");
+    EXPECT_EQ(d.caption("instruct"), "Press your key to call SNAP!");
+    EXPECT_EQ(d.caption("rule"), "First to get 5 points wins.");
     EXPECT_EQ(game().points(0) + game().points(1), 0);
     EXPECT_EQ(d.platform.beeps, 0);
     // Dealing has begun with the first card; START cannot begin it again.
