@@ -3,6 +3,7 @@
 // from the card numbers, so a deck that paired the wrong cards would be caught here.
 #include "SnapCaption.h"
 #include "games/twoplayersnap.h"
+#include "shell/AllScreens.h"
 #include "support/Driver.h"
 
 #include <gtest/gtest.h>
@@ -308,6 +309,76 @@ TEST_F(Snap, ACallOnTheLastCardOfTheDeckShufflesBeforeTheNextCard)
     EXPECT_EQ(game().points(0) + game().points(1), 1);
     EXPECT_EQ(d.platform.lastMessage(), "All the cards have been dealt. Shuffle and deal again.");
     EXPECT_EQ(game().cardsDealt(), 1);
+}
+
+// A platform whose boxes let both players hammer their keys while they are open.
+class KeysDuringBoxes : public FakePlatform
+{
+public:
+    App *app = nullptr;
+    int pressed = 0;
+    void message(const std::string &text, const std::string &title, MsgIcon icon) override
+    {
+        hammer();
+        FakePlatform::message(text, title, icon);
+    }
+    int askYesNo(const std::string &text, const std::string &title) override
+    {
+        hammer();
+        return FakePlatform::askYesNo(text, title);
+    }
+
+private:
+    void hammer()
+    {
+        for (int key : {'a', 'L', 'A', 'l'}) {
+            clock_ += 2s;
+            app->screenKey(*app->front(), key);
+            ++pressed;
+        }
+    }
+};
+
+TEST(SnapBoxes, KeysPressedWhileABoxIsOpenDoNothing)
+{
+    KeysDuringBoxes platform;
+    ScreenRegistry registry;
+    registerAllScreens(registry);
+    App app(platform, registry);
+    platform.app = &app;
+    Screen &s = *app.show("twoplayersnap");
+    auto &game = dynamic_cast<TwoPlayerSnap &>(s);
+    app.click(s, "start");
+    s.ctl("player1").caption = "Ann Abcdefghijklmn"; // too long: a message box
+    app.keyPress(s, "player1", -1, 13);
+    s.ctl("player1").caption = "Ann";
+    app.keyPress(s, "player1", -1, 13);
+    s.ctl("player2").caption = "Bob";
+    app.keyPress(s, "player2", -1, 13);
+    while (game.cardsDealt() < 48)
+        app.timerTick(s, "Timer1");
+    app.timerTick(s, "Timer1"); // the reshuffle message
+    EXPECT_EQ(platform.pressed, 8);
+    EXPECT_EQ(game.points(0) + game.points(1), 0);
+
+    // Bob wins by Ann's wrong calls; keys during the question change nothing.
+    while (game.points(1) < TwoPlayerSnap::kWinningPoints - 1) {
+        app.timerTick(s, "Timer1");
+        if (game.cardOnShow(0) >= 0 && !snap::snaps(game.cardOnShow(0), game.cardOnShow(1))) {
+            platform.clock_ += 2s;
+            app.screenKey(s, 'a');
+        }
+    }
+    ASSERT_EQ(game.points(0), 0);
+    do
+        app.timerTick(s, "Timer1");
+    while (game.cardOnShow(0) < 0 || snap::snaps(game.cardOnShow(0), game.cardOnShow(1)));
+    platform.queueYes();
+    platform.clock_ += 2s;
+    app.screenKey(s, 'a');
+    EXPECT_EQ(platform.lastMessage(), "Bob has won! Do you want another game?");
+    EXPECT_EQ(game.points(0) + game.points(1), 0) << "a new game with no points from the box";
+    EXPECT_EQ(game.cardsDealt(), 1);
 }
 
 TEST_F(Snap, ExitLeavesForTheGamesMenuAtAnyStage)
