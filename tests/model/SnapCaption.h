@@ -1,40 +1,27 @@
 #pragma once
-// Reads a snap card's calculation ("6 x 8", "29 - 5", "72 ÷ 3") the way a pupil would work it out,
-// independently of how the deck made it: nullopt for anything that is not one whole-number
-// operation with a whole-number answer.
+// Works out a snap card's calculation ("6 x 8", "29 - 5", "72 ÷ 3") as a pupil would, independently
+// of the deck: nullopt unless it is one operation on plain whole numbers with a whole answer.
 #include <optional>
+#include <regex>
 #include <string>
 
 namespace nb::test {
 
-inline std::optional<long> wholeOf(const std::string &s)
-{
-    if (s.empty() || s.size() > 9 || s.find_first_not_of("0123456789") != std::string::npos ||
-        (s.size() > 1 && s[0] == '0'))
-        return std::nullopt;
-    return std::stol(s);
-}
-
 inline std::optional<long> captionValue(const std::string &caption)
 {
-    const auto first = caption.find(' ');
-    const auto last = caption.rfind(' ');
-    if (first == std::string::npos || first == last)
+    static const std::regex form("([1-9][0-9]{0,5}) (x|\\+|-|\u00F7) ([1-9][0-9]{0,5})");
+    std::smatch m;
+    if (!std::regex_match(caption, m, form))
         return std::nullopt;
-    const auto a = wholeOf(caption.substr(0, first));
-    const auto b = wholeOf(caption.substr(last + 1));
-    const std::string op = caption.substr(first + 1, last - first - 1);
-    if (!a || !b)
-        return std::nullopt;
+    const long a = std::stol(m[1]), b = std::stol(m[3]);
+    const std::string op = m[2];
     if (op == "x")
-        return *a * *b;
+        return a * b;
     if (op == "+")
-        return *a + *b;
+        return a + b;
     if (op == "-")
-        return *a - *b;
-    if (op == "\u00F7" && *b != 0 && *a % *b == 0)
-        return *a / *b;
-    return std::nullopt;
+        return a - b;
+    return a % b == 0 ? std::optional<long>(a / b) : std::nullopt;
 }
 
 } // namespace nb::test
