@@ -11,25 +11,21 @@
 
 namespace {
 
-struct Program
+void BM_SnapDealTick(benchmark::State &state)
 {
     nb::bench::BenchPlatform platform;
     nb::ScreenRegistry registry;
-    nb::App app{platform, (nb::registerAllScreens(registry), registry)};
-};
-
-void BM_SnapDealTick(benchmark::State &state)
-{
-    Program p;
-    p.app.progress().SnapOption = nb::Value::int16(std::int16_t(state.range(0)));
-    nb::Screen &s = *p.app.show("twoplayersnap");
-    p.app.click(s, "start");
+    nb::registerAllScreens(registry);
+    nb::App app(platform, registry);
+    app.progress().SnapOption = nb::Value::int16(std::int16_t(state.range(0)));
+    nb::Screen &s = *app.show("twoplayersnap");
+    app.click(s, "start");
     for (const char *box : {"player1", "player2"}) {
         s.ctl(box).caption = "Pupil";
-        p.app.keyPress(s, box, -1, 13);
+        app.keyPress(s, box, -1, 13);
     }
     for (auto _ : state) {
-        p.app.timerTick(s, "Timer1");
+        app.timerTick(s, "Timer1");
         benchmark::DoNotOptimize(s.ctl("cardface", 1).drawing.revision);
     }
 }
