@@ -57,6 +57,14 @@ std::string trimmed(const std::string &s)
     return s.substr(first, s.find_last_not_of(' ') - first + 1);
 }
 
+// Whether now lies less than span after since. A clock set back reads as a long time since, never
+// as a moment ago.
+bool within(std::chrono::system_clock::time_point since, std::chrono::milliseconds span,
+            std::chrono::system_clock::time_point now)
+{
+    return now >= since && now - since < span;
+}
+
 } // namespace
 
 TwoPlayerSnap::TwoPlayerSnap(App &app)
@@ -292,14 +300,6 @@ void TwoPlayerSnap::reshuffle()
     shown_ = {-1, -1};
     dealNext();
     restartDealing();
-}
-
-bool TwoPlayerSnap::within(std::chrono::system_clock::time_point since,
-                           std::chrono::milliseconds span,
-                           std::chrono::system_clock::time_point now) const
-{
-    // A clock set back reads as a long time since, never as a moment ago.
-    return now >= since && now - since < span;
 }
 
 void TwoPlayerSnap::onScreenKey(int key)

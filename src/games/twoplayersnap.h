@@ -60,8 +60,6 @@ private:
     // Marks what a call earned in the players' panels (caller -1 clears them).
     void showCallResult(int caller, bool right);
     void restartDealing();
-    bool within(std::chrono::system_clock::time_point since, std::chrono::milliseconds span,
-                std::chrono::system_clock::time_point now) const;
 
     Stage stage_ = Stage::Waiting;
     int level_ = 1;
