@@ -12,7 +12,7 @@ public:
     std::string inputReply = "Pupil";
 
     void beep() override {}
-    void message(const std::string &, const std::string &, MsgIcon) override {}
+    void message(const std::string &, const std::string &, MsgIcon, const std::string &) override {}
     int askYesNo(const std::string &, const std::string &) override { return yesNoReply; }
     std::string inputBox(const std::string &, const std::string &, const std::string &) override
     {

@@ -28,6 +28,9 @@ enum class ControlKind {
 };
 
 enum class Align { Left, Center, Right };
+// What a label does with a caption too wide for it: wrap onto more lines, shrink its font until
+// the caption fits on one line, or leave out the middle (the whole caption shows as a tip).
+enum class TextFit { Wrap, Shrink, ElideMiddle };
 enum class ShapeKind { Rectangle, RoundedRectangle, Oval };
 
 // Colour helpers: rgb(255, 0, 0) == 255 (red), rgb(0, 255, 0) == 65280 (green).
@@ -83,6 +86,8 @@ struct Control
     std::string picture;                    // PictureButton, Image: the picture's resource name
     std::string spokenName;                 // TextBox etc.: short name read out to screen readers
     int maxLength = 0;                      // TextBox: 0 = no limit
+    bool readOnly = false;                  // TextBox: shows its text but takes no typing
+    TextFit fit = TextFit::Wrap;            // Label
     Drawing drawing;                        // Canvas
 
     int interval = 0;     // Timer: milliseconds

@@ -27,7 +27,7 @@ std::size_t utf8Length(const std::string &text)
 
 bool applyKey(Control &box, int key)
 {
-    if (box.kind != ControlKind::TextBox)
+    if (box.kind != ControlKind::TextBox || box.readOnly)
         return false;
     std::string &t = box.caption;
     if (key == 8) {

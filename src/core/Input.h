@@ -15,8 +15,8 @@ namespace nb {
 void applyClick(std::deque<Control> &controls, Control &clicked);
 
 // Puts a key the screen let through into a text box: Backspace removes the last character (a
-// whole UTF-8 sequence), a printable character is added unless the box is full. Returns whether
-// the text changed.
+// whole UTF-8 sequence), a printable character is added unless the box is full or read-only.
+// Returns whether the text changed.
 bool applyKey(Control &box, int key);
 
 // UTF-8 text of one character code.

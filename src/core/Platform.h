@@ -14,7 +14,7 @@ enum class MsgIcon { None, Critical, Question, Exclamation, Information };
 // Replies of a Yes/No box.
 constexpr int kYes = 6;
 constexpr int kNo = 7;
-// A Yes/No box closed or escaped without either answer (only where the caller allows it).
+// A Yes/No box closed or escaped without either answer.
 constexpr int kCancel = 2;
 
 struct PrintOutcome
@@ -30,10 +30,12 @@ public:
     virtual ~Platform() = default;
 
     virtual void beep() = 0;
-    // An OK box. An empty title means the program's own name.
+    // An OK box. An empty title means the program's own name. Details (a technical reason) are
+    // kept behind a button of the box.
     virtual void message(const std::string &text, const std::string &title = {},
-                         MsgIcon icon = MsgIcon::None) = 0;
-    // A Yes/No box; returns kYes (6) or kNo (7).
+                         MsgIcon icon = MsgIcon::None, const std::string &details = {}) = 0;
+    // A Yes/No box; returns kYes (6) or kNo (7), or kCancel (2) when it was closed or escaped
+    // without either answer.
     virtual int askYesNo(const std::string &text, const std::string &title = {}) = 0;
     // A text-input box; Cancel gives empty text.
     virtual std::string inputBox(const std::string &prompt, const std::string &title = {},

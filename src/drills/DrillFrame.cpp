@@ -14,6 +14,11 @@ constexpr int kWidth = 12000;
 constexpr int kHeight = 9000;
 
 constexpr std::uint32_t kInk = rgb(30, 40, 120);
+// The operator and "=" stand apart from the numbers: larger, in a colour of their own and with
+// room on both sides, so that in "-174.7 − -90.1" the operator and the sign of -90.1 differ.
+constexpr std::uint32_t kSignInk = rgb(215, 80, 20);
+constexpr double kNumberPoints = 40;
+constexpr double kSignPoints = 60;
 constexpr std::uint32_t kPanel = rgb(255, 245, 170);
 
 // The five cells of the sum, left to right: first number, sign, second number, "=", answer.
@@ -25,14 +30,17 @@ struct Cell
     bool isSign;
 };
 constexpr Cell kCells[] = {
-    {"text1", 500, 3000, false}, {"text2", 3500, 900, true},   {"text3", 4400, 3000, false},
-    {"text4", 7400, 900, true},  {"Text5", 8300, 3200, false},
+    {"text1", 400, 2900, false}, {"text2", 3300, 1300, true},  {"text3", 4600, 2900, false},
+    {"text4", 7500, 800, true},  {"Text5", 8300, 3200, false},
 };
 constexpr int kSumTop = 2050;
 constexpr int kSumHeight = 1500;
 // Labels show their text near the top while a box centres it: lowering the labels lines the
 // numbers up with the answer.
 constexpr int kLabelDrop = 280;
+// A label's text hangs from its top, so a larger sign is lifted to stand level with the numbers
+// (a glyph's middle lies about 0.58 of the font size below the top).
+constexpr int kSignLift = int((kSignPoints - kNumberPoints) * 20 * 0.58);
 
 void bigFont(Control &c, double points)
 {
@@ -66,16 +74,20 @@ DrillFrame::DrillFrame(App &app, Look look)
         const std::string caption = !cell.isSign                        ? ""
                                     : std::string(cell.name) == "text2" ? look_.sign
                                                                         : "=";
+        const bool sign = cell.isSign && cell.name != look_.answerBox;
+        const int lift = sign ? kSignLift : 0;
         Control &c = cell.name == look_.answerBox
                          ? textBox(cell.name, "Answer", cell.left, kSumTop, cell.width, kSumHeight)
-                         : label(cell.name, caption, cell.left, kSumTop + kLabelDrop, cell.width,
-                                 kSumHeight - kLabelDrop);
-        bigFont(c, 40);
-        c.foreColor = kInk;
+                         : label(cell.name, caption, cell.left, kSumTop + kLabelDrop - lift,
+                                 cell.width, kSumHeight - kLabelDrop + lift);
+        bigFont(c, sign ? kSignPoints : kNumberPoints);
+        c.foreColor = sign ? kSignInk : kInk;
     }
     Control &box = ctl(look_.answerBox);
     box.backColor = rgb(255, 255, 220);
-    box.maxLength = 10;
+    // Room for more digits than a number keeps (15), so that an over-long entry stays untidy and
+    // is cleared rather than cut down to a number that would be judged.
+    box.maxLength = 20;
     box.enabled = false; // until Start
 
     const auto panel = [this](const char *caption, const char *name, const char *value, int left) {
@@ -97,6 +109,7 @@ DrillFrame::DrillFrame(App &app, Look look)
     Control &exitButton = button("Command12", "Exit", 8300, 5800, 3200, 1000);
     bigFont(exitButton, 24);
     exitButton.backColor = rgb(250, 160, 160);
+    setFocus("Command11"); // an Enter before the run starts it, never leaves
 
     Control &hint = label("lblHint", "Press Start, then type each answer and press Enter.", 500,
                           7200, kWidth - 1000, 700);

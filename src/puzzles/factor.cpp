@@ -367,6 +367,7 @@ void Factor::checkEntry()
         return;
     }
 
+    platform().beep();
     box.backColor = kBoxWaiting;
     box.enabled = false;
     ++currentBox_;

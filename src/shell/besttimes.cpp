@@ -2,6 +2,7 @@
 
 #include "core/Platform.h"
 #include "core/PupilProgress.h"
+#include "shell/AchievementTable.h"
 #include "shell/record/RecordFile.h"
 #include "shell/record/Style.h"
 
@@ -11,110 +12,38 @@ namespace nb {
 
 namespace {
 
-using Field = Value PupilProgress::*;
-using P = PupilProgress;
-
-struct Row
-{
-    const char *label;           // the value label (a control array when it has several members)
-    const char *caption;         // the activity it belongs to
-    std::array<Field, 4> fields; // one per option column; unused ones null
-    bool level = false;          // shown as "level" + value
-};
-
-// In the order the screen fills them: the first column of rows, then the second.
-const Row kRows[] = {
-    {"Label37",
-     "Make Ten",
-     {&P::MakeTenBest, &P::MakeTenBestNeg, &P::MakeTenBestDec, &P::MakeTenBestNegDec}},
-    {"Label38",
-     "Make Any",
-     {&P::MakeAnyBest, &P::MakeAnyBestNeg, &P::MakeAnyBestDec, &P::MakeAnyBestNegDec}},
-    {"Label39",
-     "Addition 1",
-     {&P::AddBestNormal1, &P::AddBestNeg1, &P::AddBestDec1, &P::AddBestNegDec1}},
-    {"Label40",
-     "Addition 2",
-     {&P::AddBestNormal2, &P::AddBestNeg2, &P::AddBestDec2, &P::AddBestNegDec2}},
-    {"Label41",
-     "Addition 3",
-     {&P::AddBestNormal3, &P::AddBestNeg3, &P::AddBestDec3, &P::AddBestNegDec3}},
-    {"Label69",
-     "Addition 4",
-     {&P::AddBestNormal4, &P::AddBestNeg4, &P::AddBestDec4, &P::AddBestNegDec4}},
-    {"Label43", "Column addition", {&P::ColumnAddBest}},
-    {"Label44", "Add search", {&P::SearchBest1}, true},
-    {"Label71", "Four in a row", {&P::ExtraBestB}, true},
-    {"Label45", "Times tables", {&P::MulBest}},
-    {"Label46", "Make ? times", {&P::MakeTenTimesBestA, &P::MakeTenTimesBestB}},
-    {"Label47", "Mental times", {&P::MentMulBest, &P::ExtraBestA}},
-    {"Label48", "Times TU x U", {&P::Mul21Best}},
-    {"Label49", "Times HTU x U", {&P::Mul31Best}},
-    {"Label50", "Times TU x TU", {&P::Mul22Best}},
-    {"Label51", "Times HTU x TU", {&P::Mul32Best}},
-    {"Label52", "Times search", {&P::SearchBest3}, true},
-    {"Label77", "Perfection", {&P::PerfectionBest}, true},
-    {"Label53",
-     "Make 10 take away",
-     {&P::MakeTenSubBest, &P::MakeTenSubBestNeg, &P::MakeTenSubBestDec, &P::MakeTenSubBestNegDec}},
-    {"Label54",
-     "Make ? take away",
-     {&P::MakeAnySubBest, &P::MakeAnySubBestNeg, &P::MakeAnySubBestDec, &P::MakeAnySubBestNegDec}},
-    {"Label55",
-     "Subtraction 1",
-     {&P::SubBestNormal1, &P::SubBestNeg1, &P::SubBestDec1, &P::SubBestNegDec1}},
-    {"Label56",
-     "Subtraction 2",
-     {&P::SubBestNormal2, &P::SubBestNeg2, &P::SubBestDec2, &P::SubBestNegDec2}},
-    {"Label73",
-     "Subtraction 3",
-     {&P::SubBestNormal3, &P::SubBestNeg3, &P::SubBestDec3, &P::SubBestNegDec3}},
-    {"Label57",
-     "Subtraction 4",
-     {&P::SubBestNormal4, &P::SubBestNeg4, &P::SubBestDec4, &P::SubBestNegDec4}},
-    {"Label58", "Column subtraction", {&P::ColumnSubBest}},
-    {"Label59", "Take away search", {&P::SearchBest2}, true},
-    {"Label60", "Darts", {&P::DartsBest}},
-    {"Label61", "Make ? divide", {&P::MakeTenDivBest, &P::MakeTenDivBest2}},
-    {"Label62", "Division 1", {&P::DivBest1, &P::DivBest3}},
-    {"Label63", "Division 2", {&P::DivBest2, &P::DivBest4}},
-    {"Label64", "Long division 1", {&P::DivRemBest}},
-    {"Label65", "Long division 2", {&P::DivDecBest}},
-    {"Label66", "Long division 3", {&P::DivFracBest}},
-    {"Label67", "Divide search", {&P::SearchBest4}, true},
-    {"Label68", "Factor race", {&P::FactorBest}, true},
-};
-constexpr int kFirstColumnRows = 18;
-
-int memberCount(const Row &row)
-{
-    int n = 0;
-    while (n < 4 && row.fields[std::size_t(n)])
-        ++n;
-    return n;
-}
-
-// The option columns, and the colour that marks each in the key and the table.
-const char *const kColumnNames[] = {"Normal", "Negatives", "Decimals", "Negatives  + decimals"};
+// The colour that marks each option column in the key and the table.
 const std::uint32_t kColumnColors[] = {rgb(255, 250, 200), rgb(200, 225, 255), rgb(205, 245, 205),
                                        rgb(255, 215, 235)};
 
 constexpr int kTop = 1450;
 constexpr int kRowStep = 380;
 constexpr int kRowHeight = 340;
-constexpr int kCaptionWidth = 2250;
-constexpr int kCellStep = 860;
-constexpr int kCellWidth = 820;
+constexpr int kCaptionWidth = 2000;
+constexpr int kCellStep = 960;
+constexpr int kCellWidth = 930;
 
-// Characters a file name cannot hold become "_".
+// The pupil's name as part of a file name: characters a file name cannot hold become "_", and a
+// long name is cut (between whole characters) so the file name stays well inside what any file
+// system accepts.
 std::string fileNamePart(const std::string &text)
 {
+    constexpr std::size_t kMaxBytes = 40;
     std::string out;
     for (char c : text) {
         const auto b = static_cast<unsigned char>(c);
         out +=
             (b < 32 || std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos) ? '_' : c;
     }
+    if (out.size() > kMaxBytes) {
+        std::size_t cut = kMaxBytes;
+        while (cut > 0 && (static_cast<unsigned char>(out[cut]) & 0xC0) == 0x80)
+            --cut; // not inside a UTF-8 sequence
+        out.resize(cut);
+    }
+    // A name ending in blanks or dots makes an awkward file name on some systems.
+    while (!out.empty() && (out.back() == ' ' || out.back() == '.'))
+        out.pop_back();
     return out;
 }
 
@@ -126,9 +55,11 @@ BestTimes::BestTimes(App &app)
     setSize(12000, 9000);
     setBackColor(rgb(255, 248, 220));
 
+    // Shows the name; nothing on this screen changes it.
     Control &name = textBox("namebox", "Pupil name", 300, 250, 5400, 600);
     name.font.points = 18;
     name.font.bold = true;
+    name.readOnly = true;
 
     Control &key = label("Label89", "KEY", 6100, 150, 1000, 450);
     key.font.points = 14;
@@ -137,7 +68,7 @@ BestTimes::BestTimes(App &app)
     const int keyTops[] = {150, 150, 150, 650};
     const int keyWidths[] = {1100, 1100, 1100, 2200};
     for (int i = 0; i < 4; ++i) {
-        Control &k = label("Label" + std::to_string(90 + i), kColumnNames[i], keyLefts[i],
+        Control &k = label("Label" + std::to_string(90 + i), kOptionColumnNames[i], keyLefts[i],
                            keyTops[i], keyWidths[i], 420);
         k.font.points = 10;
         k.align = Align::Center;
@@ -146,16 +77,16 @@ BestTimes::BestTimes(App &app)
     }
 
     int row = 0;
-    for (const Row &r : kRows) {
+    for (const AchievementRow &r : achievementRows()) {
         const int column = row < kFirstColumnRows ? 0 : 1;
-        const int left = 200 + column * 5900;
+        const int left = 120 + column * 5940;
         const int top = kTop + (column == 0 ? row : row - kFirstColumnRows) * kRowStep;
         Control &c = label("Label" + std::to_string(row + 1), r.caption, left, top, kCaptionWidth,
                            kRowHeight);
         c.font.points = 10;
         c.font.bold = true;
         c.foreColor = rgb(40, 40, 120);
-        const int members = memberCount(r);
+        const int members = r.members();
         for (int m = 0; m < members; ++m) {
             Control &v = label(r.label, "", left + kCaptionWidth + 50 + m * kCellStep, top,
                                kCellWidth, kRowHeight, members > 1 ? m : -1);
@@ -163,6 +94,7 @@ BestTimes::BestTimes(App &app)
             v.align = Align::Center;
             v.border = true;
             v.backColor = kColumnColors[m];
+            v.fit = TextFit::Shrink; // any value a record holds reads whole
         }
         ++row;
     }
@@ -176,13 +108,12 @@ void BestTimes::onOpened()
 {
     const PupilProgress &p = progress();
     caption("namebox") = p.PupilName.str();
-    for (const Row &r : kRows) {
-        const int members = memberCount(r);
+    for (const AchievementRow &r : achievementRows()) {
+        const int members = r.members();
         for (int m = 0; m < members; ++m) {
-            const Value &v = p.*r.fields[std::size_t(m)];
-            if (v == Value::int16(0))
-                continue; // no result yet (empty counts as 0)
-            caption(r.label, members > 1 ? m : -1) = (r.level ? "level" : "") + v.str();
+            const std::string text = achievementText(p.*r.fields[std::size_t(m)], r.level);
+            if (!text.empty())
+                caption(r.label, members > 1 ? m : -1) = text;
         }
     }
 }

@@ -38,6 +38,13 @@ MainMenu::MainMenu(App &app)
     ask.font.points = 18;
     ask.align = Align::Center;
     ask.foreColor = rgb(40, 40, 120);
+    // Who is working, once a pupil has been chosen.
+    Control &pupil = label("pupilname", "", 300, 450, 4300, 600);
+    pupil.font.points = 16;
+    pupil.font.bold = true;
+    pupil.foreColor = rgb(40, 110, 60);
+    pupil.fit = TextFit::Shrink; // a long name stays on its line, clear of the title
+    pupil.visible = false;
 
     const std::uint32_t buttonColors[] = {rgb(150, 230, 150), rgb(140, 200, 255),
                                           rgb(255, 160, 160)};
@@ -69,6 +76,7 @@ void MainMenu::onActivated()
 
 void MainMenu::onOpened()
 {
+    showPupil();
     if (progress().Unsaved.equalsNumber(1)) {
         setEnabled("Command2", false);
         setEnabled("Command3", false);
@@ -119,6 +127,18 @@ void MainMenu::newPupil()
     p.Unsaved = Value::int16(1);
     setEnabled("Command2", false);
     setEnabled("Command3", false);
+    showPupil();
+}
+
+void MainMenu::showPupil()
+{
+    const PupilProgress &p = progress();
+    Control &c = ctl("pupilname");
+    c.caption = p.PupilName.str();
+    c.visible = p.Unsaved.equalsNumber(1) && !c.caption.empty();
+    // With NEW and LOAD disabled, the focus goes to the first topic rather than to EXIT.
+    if (p.Unsaved.equalsNumber(1))
+        setFocus("Command5");
 }
 
 void MainMenu::exitProgram()

@@ -16,6 +16,8 @@ public:
 private:
     void newPupil();
     void exitProgram();
+    // Shows the name of the pupil at work, once there is one.
+    void showPupil();
 };
 
 } // namespace nb

@@ -61,8 +61,9 @@ PairMenu::PairMenu(App &app)
         pictureButton("fourinrow", "Four in a row board " + std::to_string(i + 1),
                       "fourrow" + std::to_string(i + 1) + ".svg", MenuLayout::columnX(i),
                       MenuLayout::rowY(5) - 150, MenuLayout::kButtonWidth, 1100, i);
+        // The board pictures choose the game's number mode, 0 to 2, by their place.
         addAction({"fourinrow", i, false,
-                   [i](PupilProgress &p) { p.FourRowOptionA = Value::int16(std::int16_t(i + 1)); },
+                   [i](PupilProgress &p) { p.FourRowOptionA = Value::int16(std::int16_t(i)); },
                    "twoplayerfourinarow"});
     }
 }

@@ -88,7 +88,25 @@ QString plainCaption(const std::string &s)
     return qs(s).replace('&', "&&");
 }
 
-void applyLabel(QWidget &w, const Control &c, const ControlChanges &ch)
+// A caption too wide for its label: the font made smaller until the whole caption fits on one
+// line, or the middle of the caption left out, with the whole of it as the label's tip.
+void fitCaption(QLabel &label, const QString &caption, TextFit fit, QFont font)
+{
+    const int room = std::max(1, label.contentsRect().width() - 6);
+    if (fit == TextFit::Shrink) {
+        while (font.pixelSize() > 5 && QFontMetrics(font).horizontalAdvance(caption) > room)
+            font.setPixelSize(font.pixelSize() - 1);
+        label.setFont(font);
+        // A smaller caption stays in the middle of its label rather than at the top.
+        label.setAlignment((label.alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter);
+    } else {
+        label.setWordWrap(false);
+        label.setText(QFontMetrics(font).elidedText(caption, Qt::ElideMiddle, room));
+        label.setToolTip(caption);
+    }
+}
+
+void applyLabel(QWidget &w, const Control &c, const ControlChanges &ch, double pixelsPerTwip)
 {
     auto &lab = static_cast<QLabel &>(w);
     if (ch.text) {
@@ -104,6 +122,8 @@ void applyLabel(QWidget &w, const Control &c, const ControlChanges &ch)
         lab.setAlignment(alignmentOf(c.align) | Qt::AlignTop);
         lab.setFrameShape(c.border ? QFrame::Box : QFrame::NoFrame);
     }
+    if (c.fit != TextFit::Wrap && (ch.text || ch.font || ch.geometry || ch.look))
+        fitCaption(lab, qs(c.caption), c.fit, makeFont(c.font, pixelsPerTwip * kTwipsPerPixel));
 }
 
 void applyTextBox(QWidget &w, const Control &c, const ControlChanges &ch)
@@ -115,16 +135,18 @@ void applyTextBox(QWidget &w, const Control &c, const ControlChanges &ch)
         const int pos = box.cursorPosition();
         const bool atEnd = pos == box.text().size();
         box.setText(t);
-        if (!atEnd)
-            box.setCursorPosition(std::min(pos, int(t.size())));
+        if (!atEnd || c.readOnly) // a text only to be read shows from its start
+            box.setCursorPosition(atEnd ? 0 : std::min(pos, int(t.size())));
     }
     if (ch.spoken)
         box.setAccessibleName(qs(c.spokenName.empty() ? c.name : c.spokenName));
     if (ch.colors)
         setColors(box, QPalette::Base, QPalette::Text, c.backColor, c.foreColor, Qt::white,
                   Qt::black, true);
-    if (ch.look)
+    if (ch.look) {
         box.setAlignment(alignmentOf(c.align) | Qt::AlignVCenter);
+        box.setReadOnly(c.readOnly);
+    }
     if (ch.fresh || ch.range)
         box.setMaxLength(c.maxLength > 0 ? c.maxLength : 32767);
 }
@@ -198,6 +220,8 @@ ControlChanges compareControl(Control &l, const Control &c, bool fresh, bool rel
     ch.look |= changed(l.align, c.align);
     ch.look |= changed(l.border, c.border);
     ch.look |= changed(l.shape, c.shape);
+    ch.look |= changed(l.fit, c.fit);
+    ch.look |= changed(l.readOnly, c.readOnly);
     ch.picture = changed(l.picture, c.picture) || fresh;
     ch.spoken = changed(l.spokenName, c.spokenName) || fresh;
     ch.range = fresh;
@@ -227,7 +251,7 @@ void applyControl(QWidget &w, const Control &c, const ControlChanges &ch, double
 
     switch (c.kind) {
     case ControlKind::Label:
-        return applyLabel(w, c, ch);
+        return applyLabel(w, c, ch, pixelsPerTwip);
     case ControlKind::TextBox:
         return applyTextBox(w, c, ch);
     case ControlKind::Button:

@@ -15,7 +15,7 @@ struct ControlChanges
     bool font = false;
     bool colors = false;
     bool text = false;
-    bool look = false; // alignment, border, shape
+    bool look = false; // alignment, border, shape, text fit, read-only
     bool picture = false;
     bool spoken = false;
     bool range = false;

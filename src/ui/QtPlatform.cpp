@@ -6,8 +6,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QInputDialog>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -17,23 +15,6 @@
 namespace nb::ui {
 
 namespace {
-
-QMessageBox::Icon iconOf(MsgIcon icon)
-{
-    switch (icon) {
-    case MsgIcon::Critical:
-        return QMessageBox::Critical;
-    case MsgIcon::Question:
-        return QMessageBox::Question;
-    case MsgIcon::Exclamation:
-        return QMessageBox::Warning;
-    case MsgIcon::Information:
-        return QMessageBox::Information;
-    case MsgIcon::None:
-        break;
-    }
-    return QMessageBox::NoIcon;
-}
 
 // Pauses the screen timers for as long as a box is open, even if answering it throws.
 class TimersPaused
@@ -76,28 +57,8 @@ BoxAnswer QtPlatform::openBox(const BoxRequest &request)
 
 BoxAnswer QtPlatform::showDialog(const BoxRequest &request)
 {
-    BoxAnswer answer;
-    if (request.kind == BoxRequest::Kind::Input) {
-        bool ok = false;
-        const QString text = QInputDialog::getText(window_, qs(request.title), qs(request.text),
-                                                   QLineEdit::Normal, qs(request.defaultText), &ok);
-        answer.text = ok ? text.toStdString() : std::string();
-        return answer;
-    }
-    QMessageBox box(window_);
-    box.setWindowTitle(qs(request.title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(qs(request.text));
-    box.setIcon(iconOf(request.icon));
-    if (request.kind == BoxRequest::Kind::YesNo) {
-        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        box.setDefaultButton(QMessageBox::Yes);
-        answer.button = box.exec() == QMessageBox::Yes ? kYes : kNo;
-    } else {
-        box.setStandardButtons(QMessageBox::Ok);
-        box.exec();
-    }
-    return answer;
+    const ScreenView *front = window_ ? window_->frontView() : nullptr;
+    return ProgramBox::run(request, front ? front->scale() : 1.0, window_);
 }
 
 void QtPlatform::beep()
@@ -105,23 +66,29 @@ void QtPlatform::beep()
     QApplication::beep();
 }
 
-void QtPlatform::message(const std::string &text, const std::string &title, MsgIcon icon)
+void QtPlatform::message(const std::string &text, const std::string &title, MsgIcon icon,
+                         const std::string &details)
 {
-    openBox({BoxRequest::Kind::Message, text, title.empty() ? "NUMBROOK" : title, {}, icon});
+    openBox(
+        {BoxRequest::Kind::Message, text, title.empty() ? "NUMBROOK" : title, {}, icon, details});
 }
 
 int QtPlatform::askYesNo(const std::string &text, const std::string &title)
 {
     const BoxAnswer a = openBox(
-        {BoxRequest::Kind::YesNo, text, title.empty() ? "NUMBROOK" : title, {}, MsgIcon::None});
-    return a.button == kYes ? kYes : kNo;
+        {BoxRequest::Kind::YesNo, text, title.empty() ? "NUMBROOK" : title, {}, MsgIcon::None, {}});
+    return a.button == kYes || a.button == kCancel ? a.button : kNo;
 }
 
 std::string QtPlatform::inputBox(const std::string &prompt, const std::string &title,
                                  const std::string &defaultText)
 {
-    return openBox({BoxRequest::Kind::Input, prompt, title.empty() ? "NUMBROOK" : title,
-                    defaultText, MsgIcon::None})
+    return openBox({BoxRequest::Kind::Input,
+                    prompt,
+                    title.empty() ? "NUMBROOK" : title,
+                    defaultText,
+                    MsgIcon::None,
+                    {}})
         .text;
 }
 

@@ -4,6 +4,7 @@
 // still until it is answered.
 #include "core/Platform.h"
 #include "core/Random.h"
+#include "ui/ProgramBox.h"
 
 #include <functional>
 #include <string>
@@ -11,24 +12,6 @@
 namespace nb::ui {
 
 class MainWindow;
-
-// A box about to be shown, as an answerer sees it.
-struct BoxRequest
-{
-    enum class Kind { Message, YesNo, Input };
-    Kind kind = Kind::Message;
-    std::string text;
-    std::string title; // as shown: an empty title becomes "NUMBROOK"
-    std::string defaultText;
-    MsgIcon icon = MsgIcon::None;
-};
-
-// The reply: button (kYes or kNo) for a Yes/No box, text for an input box (empty = Cancel).
-struct BoxAnswer
-{
-    int button = kYes;
-    std::string text;
-};
 
 class QtPlatform : public Platform
 {
@@ -45,7 +28,8 @@ public:
     void setAnswerer(Answerer answerer) { answerer_ = std::move(answerer); }
 
     void beep() override;
-    void message(const std::string &text, const std::string &title, MsgIcon icon) override;
+    void message(const std::string &text, const std::string &title, MsgIcon icon,
+                 const std::string &details) override;
     int askYesNo(const std::string &text, const std::string &title) override;
     std::string inputBox(const std::string &prompt, const std::string &title,
                          const std::string &defaultText) override;

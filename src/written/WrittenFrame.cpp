@@ -124,7 +124,7 @@ void WrittenFrame::headings(int firstColumn, int row, std::initializer_list<cons
 Control &WrittenFrame::answerBox(std::string name, std::string spoken, int column, int row)
 {
     constexpr int inset = 70;
-    boxes_.push_back(name);
+    boxes_.add(name);
     Control &c = textBox(std::move(name), std::move(spoken), cellX(column) + inset,
                          cellY(row) + inset, kCell - 2 * inset, kCell - 2 * inset);
     c.font.points = 32;
@@ -160,7 +160,7 @@ void WrittenFrame::rules(int answerRow, int firstColumn, int lastColumn, bool do
 
 bool WrittenFrame::isAnswerBox(std::string_view name) const
 {
-    return std::find(boxes_.begin(), boxes_.end(), name) != boxes_.end();
+    return boxes_.contains(name);
 }
 
 void WrittenFrame::onOpened()
@@ -190,7 +190,7 @@ void WrittenFrame::onTimer(const std::string &name)
 
 void WrittenFrame::onKeyPress(const std::string &name, int index, int &key)
 {
-    if (index != -1 || !isAnswerBox(name))
+    if (!boxes_.contains(name, index))
         return;
     Control &box = ctl(name);
     if (const auto value = filterAnswerKey(box.caption, keyReference(name), key))
@@ -235,8 +235,7 @@ void WrittenFrame::clearPage()
 {
     questionComplete_ = false;
     setVisible("Command10", false);
-    for (const std::string &box : boxes_)
-        caption(box).clear();
+    boxes_.clear(*this);
     setPrompt("");
 }
 

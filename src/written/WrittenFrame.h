@@ -3,6 +3,7 @@
 // paper, a prompt line under it, the stopwatch and score, and Start, Next and Exit. An exercise
 // is five questions; each answer box takes one entry at a time through the answer-box key
 // filter, a right entry beeps and a wrong one is emptied and costs two seconds.
+#include "activity/AnswerBoxes.h"
 #include "activity/TimedRun.h"
 #include "core/PupilProgress.h"
 #include "core/Screen.h"
@@ -100,7 +101,7 @@ private:
 
     Value PupilProgress::*best_;
     std::string menu_;
-    std::vector<std::string> boxes_;
+    AnswerBoxes boxes_;
     TimedRun run_;
 };
 

@@ -8,6 +8,9 @@ namespace {
 constexpr int kExchangeRow = 1, kTopRow = 2, kBottomRow = 3, kAnswerRow = 4;
 // Exchanges are written in red, as a teacher would.
 constexpr std::uint32_t kExchangeInk = rgb(215, 40, 40);
+// The top digit waiting to be clicked, and the hint that says so.
+constexpr std::uint32_t kClickMe = rgb(255, 214, 150);
+constexpr std::uint32_t kHintPaper = rgb(255, 240, 200);
 
 const char *const kBoxes[] = {"Text11", "Text12", "Text13"};
 const char *const kPrompts[] = {"Enter the units.", "Enter the tens.", "Enter the hundreds."};
@@ -62,11 +65,15 @@ Sub33::Sub33(App &app)
     answerBox("Text12", "tens", kTensColumn, kAnswerRow);
     answerBox("Text11", "units", kUnitsColumn, kAnswerRow);
 
-    Control &hint =
-        label("hint", "Top digit too small? Click the top digit on its left to exchange.", 8000,
-              5700, 3400, 1500);
-    hint.font.points = 14;
+    // Says what to do while a column waits for its exchange; hidden otherwise.
+    Control &hint = label("hint", "", 8000, 5450, 3400, 2000);
+    hint.font.points = 16;
+    hint.font.bold = true;
     hint.foreColor = kExchangeInk;
+    hint.backColor = kHintPaper;
+    hint.border = true;
+    hint.align = Align::Center;
+    hint.visible = false;
 }
 
 void Sub33::newQuestion()
@@ -104,13 +111,56 @@ void Sub33::showStep()
     Control &active = ctl(kBoxes[step_ - 1]);
     active.backColor = kActiveBox;
     setPrompt(kPrompts[step_ - 1]);
-    // A column whose top digit is still too small waits for its exchange.
-    const bool waiting =
-        (step_ == 1 && bottomUnits_ > unitsNow()) || (step_ == 2 && bottomTens_ > tensNow());
-    if (!waiting) {
+    // A column whose top digit is still too small waits for its exchange. The focus then rests
+    // on the top digit to click, where an Enter does nothing.
+    const char *toClick = digitToClick();
+    pointAt(toClick);
+    if (toClick) {
+        setFocus(toClick);
+    } else {
         active.enabled = true;
         setFocus(active.name);
     }
+}
+
+const char *Sub33::digitToClick() const
+{
+    if (step_ == 1 && bottomUnits_ > unitsNow())
+        return topTens_ > 0 || exchangedFromHundreds_ ? "Label2" : "Label1";
+    if (step_ == 2 && bottomTens_ > tensNow())
+        return "Label1";
+    return nullptr;
+}
+
+void Sub33::pointAt(const char *digit)
+{
+    for (const char *name : {"Label1", "Label2"}) {
+        Control &c = ctl(name);
+        const bool pointed = digit && c.name == digit;
+        c.backColor = pointed ? kClickMe : kDefaultColor;
+        c.border = pointed;
+    }
+    Control &hint = ctl("hint");
+    hint.visible = digit != nullptr;
+    if (!digit) {
+        hint.caption.clear();
+        return;
+    }
+    const bool units = step_ == 1;
+    const int have = units ? unitsNow() : tensNow();
+    const int need = units ? bottomUnits_ : bottomTens_;
+    const std::string smaller = numberText(have) + " is smaller than " + numberText(need);
+    std::string text;
+    if (digit == std::string_view("Label2"))
+        text = smaller + ". Click the " + numberText(tensNow()) +
+               " at the top of the tens to exchange a ten.";
+    else if (units) // no tens to give: the hundreds first
+        text = smaller + " and there are no tens. Click the " + numberText(topHundreds_) +
+               " at the top of the hundreds.";
+    else
+        text = smaller + ". Click the " + numberText(topHundreds_) +
+               " at the top of the hundreds to exchange a hundred.";
+    hint.caption = text;
 }
 
 void Sub33::onPageClick(const std::string &name, int)
@@ -146,8 +196,7 @@ void Sub33::exchangeIntoUnits()
     }
     write("text18", 1);
     exchangedFromTens_ = 1;
-    setEnabled("Text11", true);
-    setFocus("Text11");
+    showStep();
 }
 
 void Sub33::exchangeIntoTens()
@@ -159,12 +208,12 @@ void Sub33::exchangeIntoTens()
         write("Text16", topHundreds_ - 1);
         write("Text14", 1);
         exchangedFromHundreds_ = 1;
+        showStep();
     } else if (step_ == 2 && topTens_ - exchangedFromTens_ < bottomTens_) {
         write("Text16", topHundreds_ - 1);
         exchangedFromHundreds_ = 1;
         write(exchangedFromTens_ ? "text19" : "Text14", 1);
-        setEnabled("Text12", true);
-        setFocus("Text12");
+        showStep();
     }
 }
 

@@ -19,6 +19,10 @@ protected:
 
 private:
     void showStep();
+    // The top digit the pupil must click before the active column can be answered, if any.
+    const char *digitToClick() const;
+    // Marks that digit and says in the hint what to do; with none, both go quiet.
+    void pointAt(const char *digit);
     void checkStep();
     // Label2: a ten into the units. Label1: a hundred into the tens.
     void exchangeIntoUnits();

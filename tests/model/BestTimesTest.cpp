@@ -73,6 +73,9 @@ TEST_F(BestTimes, EachSavedValueShowsInItsOwnLabelAndNoneShowsWhenZero)
     field(d.progress(), 2) = Value::int16(0); // as NEW leaves them
     d.open("besttimes");
     EXPECT_EQ(d.caption("namebox"), "Ann Smith");
+    d.type("namebox", "x");
+    d.key("namebox", 8);
+    EXPECT_EQ(d.caption("namebox"), "Ann Smith") << "the name cannot be typed over";
     for (const Shows &s : kMap)
         for (std::size_t i = 0; i < s.positions.size(); ++i)
             EXPECT_EQ(d.caption(s.label, member(s, i)), "") << s.label;
@@ -139,10 +142,24 @@ TEST_F(BestTimes, PrintSaysWhereThePageWentAndExitReturnsToTheMenu)
     EXPECT_EQ(d.frontName(), "mulmenu");
     EXPECT_FALSE(d.isOpen("besttimes"));
 
-    d.progress().PupilName = Value::text("a/b:c");
-    d.open("besttimes");
-    d.click("Command2");
-    EXPECT_EQ(fs::path(d.platform.printed.back()).filename(), "Best times a_b_c.pdf");
+    // The pupil's name goes into the file name tidied and, when long, cut between characters.
+    const struct
+    {
+        std::string name;
+        std::string file;
+    } names[] = {
+        {"a/b:c", "Best times a_b_c.pdf"},
+        {std::string(300, 'x'), "Best times " + std::string(40, 'x') + ".pdf"},
+        {std::string(39, 'x') + "\u00e9\u00e9", "Best times " + std::string(39, 'x') + ".pdf"},
+        {std::string(38, 'x') + " .yz", "Best times " + std::string(38, 'x') + ".pdf"},
+    };
+    for (const auto &n : names) {
+        d.progress().PupilName = Value::text(n.name);
+        d.open("besttimes");
+        d.click("Command2");
+        EXPECT_EQ(fs::path(d.platform.printed.back()).filename().string(), n.file);
+        d.click("Command1");
+    }
 }
 
 } // namespace

@@ -66,8 +66,9 @@ TEST_F(FactorRace, StoredLevelIsOfferedAndSetsTheComputersPace)
         int stored, reply; // reply 0: no question expected
         std::string level;
         int interval;
-    } cases[] = {{0, 0, "1", 1500},    {1, kYes, "2", 1440}, {4, kNo, "1", 1500},
-                 {24, kYes, "25", 60}, {25, kYes, "26", 60}, {39, kYes, "40", 60}};
+    } cases[] = {{0, 0, "1", 1500},       {1, kYes, "2", 1440}, {4, kNo, "1", 1500},
+                 {4, kCancel, "1", 1500}, {24, kYes, "25", 60}, {25, kYes, "26", 60},
+                 {39, kYes, "40", 60}};
     for (const Case &c : cases) {
         SCOPED_TRACE(c.stored);
         Driver drv;
@@ -107,6 +108,7 @@ TEST_F(FactorRace, RightFactorsMoveThePupilWithGrowingStepsThenANewNumber)
     startOn(6);
     d.typeEnter("factorbox", "1", 1);
     d.typeEnter("factorbox", "2", 2);
+    EXPECT_EQ(d.platform.beeps, 2) << "each right factor beeps";
     EXPECT_EQ(std::vector<std::uint32_t>({d.backColor("factorbox", 2), d.backColor("factorbox", 3),
                                           d.backColor("factorbox", 4)}),
               std::vector<std::uint32_t>({colors::red, colors::yellow, colors::red}));
@@ -148,7 +150,9 @@ TEST_F(FactorRace, WrongEntriesMoveTheComputerAndThreeSendOnlyThePupilBack)
     d.setText("factorbox", "", 1);
     d.typeEnter("factorbox", "1", 1);
     d.typeEnter("factorbox", "2", 2);
+    const int beeps = d.platform.beeps;
     d.typeEnter("factorbox", "2", 3); // a repeat divides 24 but is wrong
+    EXPECT_EQ(d.platform.beeps, beeps) << "a wrong factor is silent";
     EXPECT_EQ(d.text("factorbox", 3), "");
     EXPECT_EQ(top("compcar"), 948);
     EXPECT_EQ(d.control("compcar").left, 2954);

@@ -183,6 +183,36 @@ TEST_F(RecordScreens, SavedRecordLoadsAndIsWrittenBackWhereItCameFrom)
     EXPECT_EQ(slurp(records() / "zoe.DAT"), saved);
 }
 
+// From the keyboard alone: in the name box Enter presses OK and Escape presses Cancel; each screen
+// says at the top what it is for.
+TEST_F(RecordScreens, EnterAndEscapeInTheNameBox)
+{
+    d->newPupil("Bea Lamb");
+    exitAndSave();
+    EXPECT_EQ(d->caption("heading"), "Save your work");
+    d->type("txtfilename", "bea");
+    d->key("txtfilename", 27);
+    EXPECT_EQ(d->frontName(), "mainmenu");
+    EXPECT_FALSE(d->app.ended());
+    EXPECT_FALSE(fs::exists(records() / "bea.DAT"));
+    exitAndSave();
+    d->typeEnter("txtfilename", "bea");
+    EXPECT_TRUE(d->app.ended());
+    EXPECT_TRUE(fs::exists(records() / "bea.DAT"));
+
+    d = fresh();
+    d->click("Command3");
+    EXPECT_EQ(d->caption("heading"), "Find your record");
+    d->screenKey(27);
+    EXPECT_EQ(d->frontName(), "mainmenu");
+    d->click("Command3");
+    d->typeEnter("txtfilename", "bea.DAT");
+    EXPECT_EQ(d->frontName(), "mainmenu");
+    EXPECT_EQ(d->progress().PupilName.str(), "Bea Lamb");
+    EXPECT_EQ(d->caption("pupilname"), "Bea Lamb") << "the menu shows who is working";
+    EXPECT_TRUE(d->visible("pupilname"));
+}
+
 TEST_F(RecordScreens, ALoadThatFailsChangesNothingAndSaysWhy)
 {
     PupilProgress good;
@@ -210,27 +240,34 @@ TEST_F(RecordScreens, ALoadThatFailsChangesNothingAndSaysWhy)
     ASSERT_EQ(d->frontName(), "mainmenu");
     const std::string before = record::encode(d->progress());
 
+    // The box says the same plain sentence for every failure; the reason is in its details.
     const struct
     {
         std::string name;
         std::string why;
     } cases[] = {
-        {"", "You must first select a file!"},
-        {"short.DAT", "Sorry, short.DAT could not be loaded: it is not a pupil record (it ends "
-                      "part-way through value 3 of 77)."},
-        {"empty.DAT", "Sorry, empty.DAT could not be loaded: the file is empty."},
-        {"folder.DAT", "Sorry, folder.DAT could not be loaded: it is a folder, not a record file."},
-        {"huge.DAT",
-         "Sorry, huge.DAT could not be loaded: it is far too big to be a pupil record."},
-        {"locked.DAT", "Sorry, locked.DAT could not be loaded: it cannot be read ("},
-        {"gone.DAT", "Sorry, gone.DAT could not be loaded: there is no such file in this folder."},
+        {"", ""},
+        {"short.DAT", "it is not a pupil record (it ends part-way through value 3 of 77)."},
+        {"empty.DAT", "the file is empty."},
+        {"folder.DAT", "it is a folder, not a record file."},
+        {"huge.DAT", "it is far too big to be a pupil record."},
+        {"locked.DAT", "it cannot be read ("},
+        {"gone.DAT", "there is no such file in this folder."},
     };
     d->open("Filesystem");
     for (const auto &c : cases) {
         SCOPED_TRACE(c.name);
         d->setText("txtfilename", c.name);
         d->click("cmdOK");
-        EXPECT_EQ(d->platform.lastMessage().substr(0, c.why.size()), c.why);
+        const Shown &box = d->platform.shown.back();
+        if (c.name.empty()) {
+            EXPECT_EQ(box.text, "You must first select a file!");
+        } else {
+            EXPECT_EQ(box.text, "Sorry, " + c.name +
+                                    " could not be loaded: it is not a NUMBROOK pupil record, or "
+                                    "it is damaged.");
+            EXPECT_NE(box.details.find(c.name + ": " + c.why), std::string::npos) << box.details;
+        }
         EXPECT_EQ(d->frontName(), "Filesystem");
         EXPECT_EQ(record::encode(d->progress()), before);
         EXPECT_EQ(d->progress().LoadedFileName.str(), "ann.DAT");

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string_view>
+
 namespace nb::test {
 namespace {
 
@@ -21,6 +24,7 @@ TEST_F(Shell, CoverHandsOverAndExitWithNoPupilEndsAtOnce)
     d.newPupil(""); // a cancelled name leaves no pupil
     EXPECT_TRUE(d.progress().Unsaved.equalsNumber(0));
     EXPECT_TRUE(d.enabled("Command2"));
+    EXPECT_FALSE(d.visible("pupilname"));
     d.click("Command1");
     EXPECT_TRUE(d.app.ended());
     EXPECT_EQ(d.platform.shown.size(), 1u) << "no offer to save";
@@ -28,23 +32,49 @@ TEST_F(Shell, CoverHandsOverAndExitWithNoPupilEndsAtOnce)
 
 TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
 {
-    d.progress().AddBestNormal1 = Value::real(41);
-    d.progress().FactorBest = Value::int16(7);
-    d.progress().DartsBest = Value::int16(3);
+    // Every saved field holds a value of its own before NEW; exactly the listed ones become the
+    // whole number 0 (DartsBest a copy of that 0) and every other one is kept as it was.
+    const std::set<std::string_view> reset = {
+        "MakeTenBest",    "MakeAnyBest", "MakeTenSubBest", "MakeAnySubBest", "ColumnSubBest",
+        "MulBest",        "Mul21Best",   "Mul31Best",      "Mul22Best",      "Mul32Best",
+        "MakeTenDivBest", "SearchBest1", "SearchBest2",    "SearchBest3",    "SearchBest4",
+        "PerfectionBest", "FactorBest",  "DartsBest"};
+    PupilProgress &p = d.progress();
+    double n = 1;
+    for (const auto &f : PupilProgress::recordFields())
+        p.*f.member = Value::real(n++ + 0.5);
+    p.AddLevel = Value::int16(3);
+    p.SearchCaller = Value::int16(2);
+    EXPECT_FALSE(d.visible("pupilname")) << "no pupil yet";
+
     const std::string name = "Zoë Ångström" + std::string(1000, 'x'); // kept whole
     d.newPupil(name);
     ASSERT_EQ(d.platform.shown.size(), 1u);
     EXPECT_EQ(d.platform.shown[0].text, "Please enter your full name.");
-    EXPECT_EQ(d.progress().PupilName.str(), name);
-    for (const Value *v : {&d.progress().FactorBest, &d.progress().DartsBest}) {
-        EXPECT_EQ(v->tag(), ValueTag::Int16);
-        EXPECT_TRUE(v->equalsNumber(0));
+    EXPECT_EQ(p.PupilName.str(), name);
+    n = 1;
+    for (const auto &f : PupilProgress::recordFields()) {
+        const Value &v = p.*f.member;
+        const double before = n++ + 0.5;
+        if (f.name == "PupilName")
+            continue;
+        SCOPED_TRACE(std::string(f.name));
+        if (reset.count(f.name)) {
+            EXPECT_EQ(v.tag(), ValueTag::Int16);
+            EXPECT_TRUE(v.equalsNumber(0));
+        } else {
+            EXPECT_EQ(v.tag(), ValueTag::Double);
+            EXPECT_EQ(v.number(), before);
+        }
     }
-    EXPECT_EQ(d.progress().AddBestNormal1.number(), 41) << "drill best times survive NEW";
-    EXPECT_TRUE(d.progress().MakeTenBestNeg.isEmpty());
-    EXPECT_TRUE(d.progress().Unsaved.equalsNumber(1));
+    EXPECT_EQ(p.AddLevel.whole(), 3);
+    EXPECT_EQ(p.SearchCaller.whole(), 2);
+    EXPECT_TRUE(p.Unsaved.equalsNumber(1));
     EXPECT_FALSE(d.enabled("Command2"));
     EXPECT_FALSE(d.enabled("Command3"));
+    EXPECT_TRUE(d.visible("pupilname"));
+    EXPECT_EQ(d.caption("pupilname"), name) << "the menu shows who is working";
+    EXPECT_EQ(d.front().focusName(), "Command5") << "not EXIT";
 }
 
 TEST_F(Shell, ExitWithAPupilAsksToSaveAndNoEnds)

@@ -1,10 +1,10 @@
 // The written-method screens as a pupil meets them: the answer-box key filter, the shared frame
 // (stopwatch, penalties, praise, the closing question) and each screen's step machine, with the
 // digits of every question scripted.
-#include "core/PupilProgress.h"
-#include "support/Driver.h"
 #include "activity/AnswerBoxFilter.h"
 #include "activity/PraiseList.h"
+#include "core/PupilProgress.h"
+#include "support/Driver.h"
 
 #include <gtest/gtest.h>
 
@@ -243,10 +243,11 @@ TEST_P(WrittenFrame, FifthQuestionChecksTheBestAndAsksForAnotherGo)
     EXPECT_FALSE(d.isOpen(c.screen));
 
     const bool addition = c.screen == std::string("ADD333");
-    playExercise(15, kNo);
+    playExercise(15, kCancel); // the box escaped: as No
     EXPECT_EQ(d.platform.lastMessage(), "You completed 5 questions in 15 seconds." +
                                             (addition ? beaten : "") + "Do you want another go ?");
     EXPECT_EQ(best.number(), addition ? 15 : 10);
+    EXPECT_EQ(d.frontName(), c.menu);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, WrittenFrame, ::testing::ValuesIn(kScreens),
@@ -286,6 +287,27 @@ TEST_F(Written, AdditionWalksThroughBothCarriesAndTheThousands)
     EXPECT_EQ(d.caption("text17"), "Enter the thousands.");
     answer("14=2");
     EXPECT_TRUE(complete());
+}
+
+TEST(WrittenAddition, AColumnSummingToExactlyTenCarriesOne)
+{
+    const struct
+    {
+        int a, b, c;
+        const char *script;
+    } cases[] = {
+        {102, 305, 103, "11=0 15=1 12=1 13=5"}, // units 2 + 5 + 3
+        {130, 150, 120, "11=0 12=0 16=1 13=4"}, // tens 3 + 5 + 2
+        {104, 203, 102, "11=9 12=0 13=4"},      // units 9: no carry
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.script);
+        Pupil run;
+        run.start("ADD333", add333Draws(c.a, c.b, c.c));
+        run.answer(c.script);
+        EXPECT_TRUE(run.complete());
+        EXPECT_EQ(run.d.caption("time"), "0");
+    }
 }
 
 TEST_F(Written, AdditionKeepsTheStepOnAWrongEntry)
@@ -390,6 +412,47 @@ TEST_F(Written, SubtractionExchangesTwiceIntoARewrittenTens)
     EXPECT_TRUE(complete());
 }
 
+TEST_F(Written, SubtractionWaitingForAnExchangeRestsOnTheDigitToClick)
+{
+    // The focus never rests where Enter would act (Exit): while a column waits, it is on the top
+    // digit to click, which the hint names and which is marked; the prompt line stays as it is.
+    struct Case
+    {
+        int top, bottom;
+        const char *before; // right entries made first
+        const char *digit;  // the label to click
+        const char *named;  // in the hint
+        const char *prompt;
+    };
+    const Case cases[] = {
+        {350, 272, "", "Label2", "Click the 5 at the top of the tens", "Enter the units."},
+        {402, 157, "", "Label1", "Click the 4 at the top of the hundreds", "Enter the units."},
+        {689, 497, "11=2", "Label1", "Click the 6 at the top of the hundreds", "Enter the tens."},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(std::to_string(c.top) + " - " + std::to_string(c.bottom));
+        Pupil p;
+        p.start("sub33", sub33Draws(c.top, c.bottom));
+        p.answer(c.before);
+        EXPECT_EQ(p.d.front().focusName(), c.digit);
+        EXPECT_EQ(p.d.caption("text17"), c.prompt);
+        EXPECT_TRUE(p.d.visible("hint"));
+        EXPECT_NE(p.d.caption("hint").find(c.named), std::string::npos) << p.d.caption("hint");
+        EXPECT_TRUE(p.d.control(c.digit).border);
+        EXPECT_FALSE(p.d.control(std::string(c.digit) == "Label1" ? "Label2" : "Label1").border);
+    }
+
+    // Through the empty tens: the hundreds first, then the rewritten ten tens, then the box.
+    start("sub33", sub33Draws(402, 157));
+    d.click("Label1");
+    EXPECT_EQ(d.front().focusName(), "Label2");
+    EXPECT_NE(d.caption("hint").find("Click the 10 at the top of the tens"), std::string::npos);
+    d.click("Label2");
+    EXPECT_EQ(d.front().focusName(), "Text11");
+    EXPECT_FALSE(d.visible("hint"));
+    EXPECT_FALSE(d.control("Label1").border || d.control("Label2").border);
+}
+
 // ---------------------------------------------------------------- short multiplication
 
 TEST(WrittenTimes, StepMachines)
@@ -408,6 +471,10 @@ TEST(WrittenTimes, StepMachines)
         {"times", timesDraws(999, 9), "11=1 15=8 12=9 16=8 13=9 14=8", ""},
         {"times", timesDraws(987, 1), "11=7 12=8 13=9", "14 15 16"},
         {"times", timesDraws(150, 7), "11=0 12=5 16=3 13=0 14=1", "15"},
+        // A column product of exactly 10 carries 1.
+        {"times2", times2Draws(32, 5), "11=0 15=1 12=6 13=1", ""},
+        {"times", timesDraws(125, 2), "11=0 15=1 12=5 13=2", "14 16"},
+        {"times", timesDraws(152, 2), "11=4 12=0 16=1 13=3", "14 15"},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(std::string(c.screen) + " " + c.script);

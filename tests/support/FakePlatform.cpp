@@ -42,17 +42,20 @@ std::string FakePlatform::lastMessage() const
     return shown.empty() ? std::string() : shown.back().text;
 }
 
-void FakePlatform::message(const std::string &text, const std::string &title, MsgIcon icon)
+void FakePlatform::message(const std::string &text, const std::string &title, MsgIcon icon,
+                           const std::string &details)
 {
-    shown.push_back({Shown::Kind::Message, text, title, icon});
+    shown.push_back({Shown::Kind::Message, text, title, icon, details});
 }
 
 int FakePlatform::askYesNo(const std::string &text, const std::string &title)
 {
-    shown.push_back({Shown::Kind::YesNo, text, title, MsgIcon::None});
+    shown.push_back({Shown::Kind::YesNo, text, title, MsgIcon::None, {}});
     if (yesNo_.empty()) {
-        if (lenient_)
-            return lenientRandom_.next() < 0.5 ? kYes : kNo;
+        if (lenient_) { // now and then the box is closed without an answer
+            const double r = lenientRandom_.next();
+            return r < 0.45 ? kYes : r < 0.9 ? kNo : kCancel;
+        }
         ADD_FAILURE() << "unexpected Yes/No box: \"" << text << "\"";
         return kNo;
     }
@@ -64,7 +67,7 @@ int FakePlatform::askYesNo(const std::string &text, const std::string &title)
 std::string FakePlatform::inputBox(const std::string &prompt, const std::string &title,
                                    const std::string &)
 {
-    shown.push_back({Shown::Kind::Input, prompt, title, MsgIcon::None});
+    shown.push_back({Shown::Kind::Input, prompt, title, MsgIcon::None, {}});
     if (inputs_.empty()) {
         if (lenient_)
             return lenientRandom_.next() < 0.3 ? std::string() : std::string("Pupil");

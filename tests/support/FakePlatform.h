@@ -17,6 +17,7 @@ struct Shown
     std::string text;
     std::string title;
     MsgIcon icon = MsgIcon::None;
+    std::string details;
 };
 
 class FakePlatform : public Platform
@@ -35,7 +36,8 @@ public:
     void queueDraws(std::initializer_list<double> draws) { draws_.insert(draws_.end(), draws); }
     void queueDraw(double d) { draws_.push_back(d); }
     void setStrictDraws(bool strict) { strictDraws_ = strict; }
-    // When set, any box without a queued reply answers at random instead of failing the test.
+    // When set, any box without a queued reply answers at random instead of failing the test (a
+    // Yes/No box is sometimes closed without an answer: kCancel).
     void setLenient(bool lenient, std::uint64_t seed = 1);
     void setDocuments(std::string folder) { documents_ = std::move(folder); }
     void setDrives(std::vector<std::string> drives) { drives_ = std::move(drives); }
@@ -51,7 +53,8 @@ public:
 
     // Platform
     void beep() override { ++beeps; }
-    void message(const std::string &text, const std::string &title, MsgIcon icon) override;
+    void message(const std::string &text, const std::string &title, MsgIcon icon,
+                 const std::string &details) override;
     int askYesNo(const std::string &text, const std::string &title) override;
     std::string inputBox(const std::string &prompt, const std::string &title,
                          const std::string &defaultText) override;

@@ -1,7 +1,9 @@
 // The window layer against a small test screen: layout scaling, events in both directions,
 // keys seen before they are applied, boxes and timers, screens closing inside their own events.
 #include "core/App.h"
+#include "core/PupilProgress.h"
 #include "core/Screen.h"
+#include "shell/AllScreens.h"
 #include "ui/ControlWidgets.h"
 #include "ui/MainWindow.h"
 #include "ui/QtPlatform.h"
@@ -10,6 +12,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFileInfo>
 #include <QListWidget>
 #include <QPointer>
@@ -20,6 +23,8 @@
 #include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
+
+#include <deque>
 
 namespace nb::ui {
 namespace {
@@ -322,6 +327,13 @@ TEST_F(WindowTest, BoxesSeeTheScreenUpToDateAndTimersStandStill)
     const int afterBox = p.ticks;
     QTest::qWait(300);
     EXPECT_GT(p.ticks, afterBox) << "timers run again once the box is answered";
+
+    // A question closed without an answer says so; anything else unknown counts as No.
+    for (const auto &[given, got] : {std::pair{kCancel, "2"}, {kYes, "6"}, {0, "7"}}) {
+        platform.setAnswerer([given](const BoxRequest &) { return BoxAnswer{given, {}}; });
+        click("ask");
+        EXPECT_EQ(text("score"), got);
+    }
 }
 
 // Keys no box takes reach the screen; a box's keys stay the box's. Presses on a mark over a
@@ -473,6 +485,176 @@ TEST_F(WindowTest, ClosingTheWindowAsksTheProgramAndEndingItCloses)
     app.endProgram();
     EXPECT_TRUE(finished.wait(1000));
     EXPECT_FALSE(window.isVisible());
+}
+
+// ---- The program's own screens from the keyboard ----
+
+// The real platform with the draws a test chooses (then the clock-seeded ones).
+class ScriptedPlatform : public QtPlatform
+{
+public:
+    double random() override
+    {
+        if (draws.empty())
+            return QtPlatform::random();
+        const double d = draws.front();
+        draws.pop_front();
+        return d;
+    }
+    // The draw that makes Int(n r) + lo come out as v.
+    void queue(int v, int lo, int n) { draws.push_back((v - lo + 0.5) / n); }
+    std::deque<double> draws;
+};
+
+class ProgramKeys : public ::testing::Test
+{
+protected:
+    ProgramKeys()
+    {
+        registerAllScreens(registry);
+        platform.setWindow(&window);
+        platform.setAnswerer([](const BoxRequest &r) {
+            ADD_FAILURE() << "unexpected box: " << r.text;
+            return BoxAnswer{};
+        });
+    }
+    void start(const char *screen)
+    {
+        window.resize(800, 600);
+        window.show();
+        ASSERT_TRUE(window.start(screen));
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        window.syncAll(true);
+    }
+    QWidget *widget(const std::string &name) { return window.frontView()->widgetFor(name); }
+    Control &control(const std::string &name) { return app.front()->ctl(name); }
+    // A key pressed wherever the focus is, as the pupil would press it.
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QWidget *focus = QApplication::focusWidget();
+        ASSERT_NE(focus, nullptr);
+        QTest::keyClick(focus, Qt::Key(key), modifiers);
+    }
+    // Digits and Enter from the number pad.
+    void keypad(const std::string &digits)
+    {
+        for (char c : digits)
+            press(Qt::Key_0 + (c - '0'), Qt::KeypadModifier);
+        press(Qt::Key_Enter, Qt::KeypadModifier);
+    }
+
+    ScriptedPlatform platform;
+    ScreenRegistry registry;
+    App app{platform, registry};
+    MainWindow window{app};
+};
+
+// Enter on the focused Start and Next buttons presses them, and the number pad's digits and Enter
+// answer in a box.
+TEST_F(ProgramKeys, EnterOnFocusedButtonsAndFromTheNumberPad)
+{
+    const auto question = [this] {
+        for (int i = 0; i < 3; ++i) {
+            platform.queue(1, 1, 9); // 100 + 100 + 100
+            platform.queue(0, 0, 10);
+            platform.queue(0, 0, 10);
+        }
+    };
+    start("ADD333");
+    EXPECT_EQ(QApplication::focusWidget(), widget("Command11"));
+    question();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(control("Timer1").timerOn) << "Enter on Start started the exercise";
+    EXPECT_EQ(QApplication::focusWidget(), widget("Text11"));
+    keypad("0");
+    EXPECT_EQ(control("text17").caption, "Enter the tens.");
+    keypad("0");
+    keypad("3");
+    ASSERT_TRUE(control("Command10").visible);
+    EXPECT_EQ(control("score").caption, "1");
+    EXPECT_EQ(QApplication::focusWidget(), widget("Command10"));
+    question();
+    press(Qt::Key_Return);
+    EXPECT_FALSE(control("Command10").visible) << "Enter on Next made a new question";
+    EXPECT_EQ(control("text17").caption, "Enter the units.");
+    EXPECT_EQ(QApplication::focusWidget(), widget("Text11"));
+    EXPECT_EQ(control("time").caption, "0");
+}
+
+TEST_F(ProgramKeys, DrillStartsOnEnterAndTakesANumberPadAnswer)
+{
+    platform.queue(2, 1, 10);
+    platform.queue(3, 1, 10);
+    start("mul11");
+    EXPECT_EQ(QApplication::focusWidget(), widget("Command11"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), widget("Text5"));
+    ASSERT_EQ(control("text1").caption + "x" + control("text3").caption, "2x3");
+    keypad("6");
+    EXPECT_EQ(control("score").caption, "1");
+    EXPECT_EQ(control("time").caption, "0");
+}
+
+// While a column waits for an exchange the focus is on the digit to click: Enter leaves the
+// exercise running.
+TEST_F(ProgramKeys, EnterWhileAnExchangeIsAwaitedDoesNothing)
+{
+    start("sub33");
+    for (const auto &[v, lo, n] : {std::tuple{3, 1, 9},
+                                   {5, 0, 10},
+                                   {0, 0, 10},
+                                   {2, 0, 3},
+                                   {7, 0, 10},
+                                   {2, 0, 10}}) // 350 - 272
+        platform.queue(v, lo, n);
+    press(Qt::Key_Return);
+    ASSERT_FALSE(control("Text11").enabled);
+    EXPECT_EQ(QApplication::focusWidget(), widget("Label2"));
+    press(Qt::Key_Return);
+    press(Qt::Key_Return);
+    EXPECT_EQ(app.front()->name(), "sub33");
+    EXPECT_TRUE(control("Timer1").timerOn);
+    EXPECT_EQ(control("time").caption, "0");
+    QTest::mouseClick(widget("Label2"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), widget("Text11"));
+    keypad("8");
+    EXPECT_EQ(control("text17").caption, "Enter the tens.");
+}
+
+// Captions too wide for their labels: best times shrink to show every digit, a folder path loses
+// its middle on screen but not for screen readers; the name on the best-times screen is read-only.
+TEST_F(ProgramKeys, LongCaptionsFitTheirLabels)
+{
+    PupilProgress &p = app.progress();
+    p.PupilName = Value::text("Ann Smith");
+    p.AddBestNormal1 = Value::int32(123456789);
+    p.AddBestNeg1 = Value::real(37.5);
+    start("besttimes");
+    for (int member : {0, 1}) {
+        auto *cell = static_cast<QLabel *>(window.frontView()->widgetFor("Label39", member));
+        SCOPED_TRACE(cell->text().toStdString());
+        EXPECT_LE(QFontMetrics(cell->font()).horizontalAdvance(cell->text()),
+                  cell->contentsRect().width());
+    }
+    auto *name = static_cast<QLineEdit *>(widget("namebox"));
+    EXPECT_TRUE(name->isReadOnly());
+    QTest::keyClicks(name, "xy");
+    EXPECT_EQ(name->text(), "Ann Smith");
+
+    QTemporaryDir dir;
+    const QString deep = dir.filePath("a folder with a rather long name/and another one/"
+                                      "and a third to make the path far too wide/records");
+    ASSERT_TRUE(QDir().mkpath(deep));
+    p.RecordFolder = Value::text(deep.toStdString());
+    app.show("Filesystem");
+    window.syncAll();
+    auto *path = static_cast<QLabel *>(widget("lbldirname"));
+    EXPECT_EQ(control("lbldirname").caption, deep.toStdString());
+    EXPECT_TRUE(path->text().contains(QChar(0x2026))) << path->text().toStdString();
+    EXPECT_TRUE(path->text().endsWith("records"));
+    EXPECT_EQ(path->toolTip(), deep);
+    EXPECT_EQ(path->accessibleName(), deep);
 }
 
 } // namespace

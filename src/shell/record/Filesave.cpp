@@ -11,7 +11,7 @@
 namespace nb {
 
 Filesave::Filesave(App &app)
-    : RecordFileScreen(app)
+    : RecordFileScreen(app, "Save your work")
 {}
 
 void Filesave::onOpened()

@@ -7,7 +7,7 @@
 namespace nb {
 
 Filesystem::Filesystem(App &app)
-    : RecordFileScreen(app)
+    : RecordFileScreen(app, "Find your record")
 {}
 
 void Filesystem::act()
@@ -21,8 +21,13 @@ void Filesystem::act()
     p.FileNumber = Value::int16(1);
     const record::ReadOutcome read = record::readRecordFile(folder() / name);
     if (!read.values) {
-        // Nothing has been changed, and the screen stays open for another choice.
-        platform().message("Sorry, " + name + " could not be loaded: " + read.problem + ".");
+        // Nothing has been changed, and the screen stays open for another choice. The teacher
+        // reads a plain sentence; the technical reason waits behind the box's details button.
+        platform().message("Sorry, " + name +
+                               " could not be loaded: it is not a NUMBROOK pupil record, or it is "
+                               "damaged.",
+                           {}, MsgIcon::None,
+                           (folder() / name).string() + ": " + read.problem + ".");
         return;
     }
     record::store(*read.values, p);

@@ -76,31 +76,39 @@ std::optional<Listing> listFolder(const fs::path &folder)
 
 } // namespace
 
-RecordFileScreen::RecordFileScreen(App &app)
+RecordFileScreen::RecordFileScreen(App &app, const std::string &heading)
     : Screen(app)
 {
     setSize(12000, 9000);
     setBackColor(rgb(235, 245, 255));
-    const auto heading = [this](const char *name, const char *text, int l, int t) {
+    // What this screen is for, in words a child understands.
+    Control &top = label("heading", heading, 600, 120, 10800, 750);
+    top.font.points = 24;
+    top.font.bold = true;
+    top.align = Align::Center;
+    top.foreColor = rgb(230, 80, 40);
+
+    const auto captionLabel = [this](const char *name, const char *text, int l, int t) {
         Control &c = label(name, text, l, t, 5000, 450);
         c.font.points = 14;
         c.font.bold = true;
         c.foreColor = rgb(40, 40, 120);
     };
-    heading("lblfilename", "File Name:", 600, 400);
-    textBox("txtfilename", "File name", 600, 900, 5000, 550).font.points = 16;
-    spoken(list("filfiles", 600, 1600, 5000, 4900), "Files");
-    heading("lblfiletype", "File Type:", 600, 6700);
-    spoken(comboBox("cbofiletype", 600, 7200, 5000, 500), "File type");
+    captionLabel("lblfilename", "File Name:", 600, 950);
+    textBox("txtfilename", "File name", 600, 1400, 5000, 550).font.points = 16;
+    spoken(list("filfiles", 600, 2050, 5000, 4450), "Files");
+    captionLabel("lblfiletype", "File Type:", 600, 6650);
+    spoken(comboBox("cbofiletype", 600, 7100, 5000, 500), "File type");
 
-    heading("lbldirectories", "Directories", 6400, 400);
-    Control &path = label("lbldirname", "", 6400, 900, 5000, 550);
+    captionLabel("lbldirectories", "Directories", 6400, 950);
+    Control &path = label("lbldirname", "", 6400, 1400, 5000, 550);
     path.font.points = 11;
     path.border = true;
     path.backColor = colors::white;
-    spoken(list("dirdirectory", 6400, 1600, 5000, 4900), "Folders");
-    heading("lbldrive", "Drive :", 6400, 6700);
-    spoken(comboBox("drvdrive", 6400, 7200, 5000, 500), "Drive");
+    path.fit = TextFit::ElideMiddle; // a long path keeps both ends in view
+    spoken(list("dirdirectory", 6400, 2050, 5000, 4450), "Folders");
+    captionLabel("lbldrive", "Drive :", 6400, 6650);
+    spoken(comboBox("drvdrive", 6400, 7100, 5000, 500), "Drive");
 
     bigButton(button("cmdOK", "OK", 6400, 8000, 2300, 700), rgb(150, 230, 150));
     bigButton(button("cmdcancel", "Cancel", 9100, 8000, 2300, 700), rgb(255, 190, 190));
@@ -134,6 +142,25 @@ void RecordFileScreen::onClick(const std::string &name, int)
     if (name == "cmdOK")
         act();
     else if (name == "cmdcancel")
+        closeSelf();
+}
+
+void RecordFileScreen::onKeyPress(const std::string &name, int, int &key)
+{
+    // In the name box, Enter presses OK and Escape presses Cancel.
+    if (name != "txtfilename" || (key != 13 && key != 27))
+        return;
+    const bool ok = key == 13;
+    key = 0;
+    if (ok)
+        act();
+    else
+        closeSelf();
+}
+
+void RecordFileScreen::onScreenKey(int key)
+{
+    if (key == 27)
         closeSelf();
 }
 

@@ -16,12 +16,16 @@ namespace nb {
 class RecordFileScreen : public Screen
 {
 public:
-    explicit RecordFileScreen(App &app);
+    // `heading` says at the top what the screen is for.
+    RecordFileScreen(App &app, const std::string &heading);
 
     void onOpened() override;
     void onClick(const std::string &name, int index) override;
     void onDoubleClick(const std::string &name, int index) override;
     void onChange(const std::string &name, int index) override;
+    void onKeyPress(const std::string &name, int index, int &key) override;
+    // Escape anywhere on the screen presses Cancel.
+    void onScreenKey(int key) override;
 
 protected:
     // OK pressed (or a file double-clicked): save or load the file named in the name box.
