@@ -210,10 +210,11 @@ class KeysDuringBoxes : public FakePlatform
 {
 public:
     App *app = nullptr;
-    void message(const std::string &text, const std::string &title, MsgIcon icon) override
+    void message(const std::string &text, const std::string &title, MsgIcon icon,
+                 const std::string &details) override
     {
         hammer();
-        FakePlatform::message(text, title, icon);
+        FakePlatform::message(text, title, icon, details);
     }
     int askYesNo(const std::string &text, const std::string &title) override
     {
