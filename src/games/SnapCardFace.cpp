@@ -29,6 +29,13 @@ constexpr double kTextMargin = 0.05;
 constexpr double kCharEms = 0.56;
 constexpr double kMaxPoints = 40;
 
+// The largest text size (points), at most maxPoints, at which a line of text fits across width.
+double fittingPoints(const std::string &text, double width, double maxPoints)
+{
+    const double n = std::max(1, characterCount(text));
+    return std::min(maxPoints, width / (n * kCharEms * 20));
+}
+
 } // namespace
 
 int characterCount(const std::string &text)
@@ -36,12 +43,6 @@ int characterCount(const std::string &text)
     return int(std::count_if(text.begin(), text.end(), [](char c) {
         return (static_cast<unsigned char>(c) & 0xC0) != 0x80;
     }));
-}
-
-double fittingPoints(const std::string &text, double width, double maxPoints)
-{
-    const double n = std::max(1, characterCount(text));
-    return std::min(maxPoints, width / (n * kCharEms * 20));
 }
 
 void drawFace(Drawing &d, double w, double h, int card, const std::string &caption)

@@ -18,8 +18,4 @@ void drawPlace(Drawing &d, double w, double h);
 // How many characters a UTF-8 text has (a name's length in letters, a caption's width).
 int characterCount(const std::string &text);
 
-// The largest text size (points), at most maxPoints, at which a line of text in the caption font
-// fits across width twips.
-double fittingPoints(const std::string &text, double width, double maxPoints);
-
 } // namespace nb::snap

@@ -127,7 +127,7 @@ void TwoPlayerSnap::buildPlayerPanel(int player, int left)
 
     Control &name = label(kNameLabel[p], "Player " + std::to_string(player + 1), left + 100,
                           kPanelTop + 250, kPanelWidth - 200, 800);
-    styled(name, 24, true, Align::Center, ink);
+    styled(name, 24, true, Align::Center, ink).fit = TextFit::Shrink;
     Control &box = textBox(kPlayerBox[p], "Player " + std::to_string(player + 1) + " name",
                            left + 250, kPanelTop + 250, kPanelWidth - 500, 700);
     styled(box, 18, true, Align::Center, colors::black);
@@ -144,7 +144,7 @@ void TwoPlayerSnap::buildPlayerPanel(int player, int left)
 
     Control &score =
         label(kScore[p], " : 0", left + 100, kPanelTop + 3000, kPanelWidth - 200, 1300);
-    styled(score, 22, true, Align::Center, colors::white);
+    styled(score, 22, true, Align::Center, colors::white).fit = TextFit::Shrink;
 
     // A gold counter for every point, five in a row.
     constexpr int kDot = 440, kGap = 90;
@@ -242,7 +242,6 @@ void TwoPlayerSnap::acceptName(int player)
     setVisible(kHint[p], false);
     Control &shown = ctl(kNameLabel[p]);
     shown.caption = name;
-    shown.font.points = snap::fittingPoints(name, shown.width - 100, 24);
     shown.visible = true;
     showScores();
     if (player == 0) {
@@ -411,8 +410,6 @@ void TwoPlayerSnap::showScores()
     for (std::size_t p = 0; p < 2; ++p) {
         Control &score = ctl(kScore[p]);
         score.caption = names_[p] + " : " + std::to_string(points_[p]);
-        score.font.points =
-            std::max(14.0, snap::fittingPoints(score.caption, score.width - 100, 22));
         for (int i = 0; i < kWinningPoints; ++i)
             ctl(kPoint[p], i).backColor = i < points_[p] ? kGold : kPanel;
     }
