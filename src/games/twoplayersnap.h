@@ -30,7 +30,7 @@ public:
     static constexpr std::chrono::milliseconds kSettle{750};
     // A press of the same key within this time of that key's last press is taken as the key held
     // down (the keyboard repeats it) and does not count.
-    static constexpr std::chrono::milliseconds kHeld{1000};
+    static constexpr std::chrono::milliseconds kHeld{750};
 
     // Milliseconds between cards at a level.
     static int dealInterval(int level);
