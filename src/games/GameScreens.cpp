@@ -4,6 +4,7 @@
 #include "games/darts.h"
 #include "games/fourinarow.h"
 #include "games/twoplayerfourinarow.h"
+#include "games/twoplayersnap.h"
 
 #include <memory>
 
@@ -20,6 +21,7 @@ void registerGameScreens(ScreenRegistry &registry)
                  [](App &a) { return std::make_unique<Dart>(a, darts::BoardKind::Quads); });
     registry.add<FourInARow>("fourinarow", "Four in a row");
     registry.add<TwoPlayerFourInARow>("twoplayerfourinarow", "Two-player four in a row");
+    registry.add<TwoPlayerSnap>("twoplayersnap", "snap");
 }
 
 } // namespace nb

@@ -265,9 +265,10 @@ void ScreenView::syncTimer(Bound &b, const Control &c)
 {
     if (changed(b.last.interval, c.interval) || b.fresh)
         b.timer->setInterval(std::max(1, c.interval));
+    const bool restart = changed(b.last.timerRestarts, c.timerRestarts) && !b.fresh;
     b.fresh = false;
     const bool run = screen_ && !paused_ && c.timerOn && c.interval > 0;
-    if (run && !b.timer->isActive())
+    if (run && (!b.timer->isActive() || restart))
         b.timer->start();
     else if (!run && b.timer->isActive())
         b.timer->stop();
