@@ -169,7 +169,14 @@ void LayoutFrame::onKeyPress(const std::string &name, int index, int &key)
         key = 0;
         return;
     }
+    // Untidy text ("07", "12a", a lone "-") is wiped and the key that found it goes nowhere:
+    // the pupil starts the box again. Only an empty box lets the key in.
+    const bool hadText = !box.caption.empty();
     const bool submitted = filterAnswerKey(box.caption, key).has_value();
+    if (hadText && box.caption.empty()) {
+        key = 0;
+        return;
+    }
     const LayoutStep *step = waiting();
     // The entry is compared as the number it reads as, not cut to 16 bits: a 3-digit by 2-digit
     // product reaches 35341.

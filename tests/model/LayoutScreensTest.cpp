@@ -83,12 +83,15 @@ TEST(LayoutScreens, InputGuardClearsUntidyTextWithoutPenalty)
     };
     const Case cases[] = {
         {"07\r", "", 0},  // cleared at the Enter, nothing checked
-        {"075", "5", 0},  // cleared at the next key, which goes into the empty box
+        {"075", "", 0},   // cleared at the next key, which is lost with it
+        {"0755", "5", 0}, // ... so only the key after that goes in
         {"12a\r", "", 0}, // letters after digits
+        {"a3", "", 0},    // a letter alone
+        {"-5\r", "", 0},  // a sign alone reads as no number
         {"\r", "", 0},    // an empty box submits nothing
+        {"3", "3", 0},    // an empty box takes the key
         {"0", "0", 0},    // a lone 0 stays
         {"0\r", "", 2},   // ... and is checked: wrong for a first box, which is never 0
-        {"-5\r", "", 2},  // a negative number is checked, and is wrong
     };
     for (const LayoutScreen &s : kLayoutScreens) {
         for (const Case &c : cases) {
