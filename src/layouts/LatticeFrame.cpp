@@ -124,7 +124,8 @@ LayoutFrame::StageColours LatticeFrame::colours(LayoutStep::Stage stage) const
 {
     if (stage == LayoutStep::Stage::SetOut)
         return {colors::lightRed, colors::red};
-    return {colors::yellow, kLightOrange};
+    // An answered triangle shows as such on the lattice, not on its box: the box stays yellow.
+    return {colors::yellow, kDefaultColor};
 }
 
 void LatticeFrame::questionStarted()

@@ -118,6 +118,13 @@ TEST(LatticeMultiplication, WorkedExamplesOnTheSmallestLattice)
             }
             p.enter(e.value);
             EXPECT_FALSE(p.d.enabled(e.name, e.index));
+            // Answered, a digit box turns red; a triangle or sum box keeps its yellow (the
+            // completing one aside).
+            const bool completing = e.name == "answerbox" && e.index == c.completing;
+            if (!completing) {
+                EXPECT_EQ(p.d.backColor(e.name, e.index),
+                          e.name == "question" ? colors::red : colors::yellow);
+            }
         }
         EXPECT_EQ(p.d.backColor("answerbox", c.completing), kLightCyan);
         EXPECT_TRUE(p.d.reachable("Command10"));
