@@ -3,6 +3,7 @@
 #include "activity/AnswerBoxFilter.h"
 #include "activity/BestTimeCheck.h"
 #include "activity/PraiseList.h"
+#include "core/Input.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
 
@@ -182,6 +183,22 @@ void LayoutFrame::onKeyPress(const std::string &name, int index, int &key)
     // product reaches 35341.
     if (submitted && step && step->index == index && name == step->box)
         check(box, readNumber(box.caption));
+}
+
+void LayoutFrame::onScreenKey(int key)
+{
+    // A key that finds no box (the pupil tabbed away or the focus was lost) belongs to the box
+    // that is waiting: it takes the key and the focus back, so that the next Enter checks the
+    // entry rather than pressing a button.
+    const LayoutStep *step = waiting();
+    if (!step)
+        return;
+    const std::string name = step->box;
+    const int index = step->index;
+    setFocus(name, index);
+    onKeyPress(name, index, key);
+    if (key != 0 && key != kEnterKey)
+        applyKey(ctl(name, index), key);
 }
 
 void LayoutFrame::start()
