@@ -187,9 +187,8 @@ void LayoutFrame::onKeyPress(const std::string &name, int index, int &key)
 
 void LayoutFrame::onScreenKey(int key)
 {
-    // A key that finds no box (the pupil tabbed away or the focus was lost) belongs to the box
-    // that is waiting: it takes the key and the focus back, so that the next Enter checks the
-    // entry rather than pressing a button.
+    // A key that finds no box (the focus strayed from the box) belongs to the box that is
+    // waiting: the key goes in there and the focus is asked back to it.
     const LayoutStep *step = waiting();
     if (!step)
         return;
