@@ -136,6 +136,10 @@ void ScreenView::make(Bound &b, const Control &c, int slot)
     case ControlKind::Button:
     case ControlKind::PictureButton: {
         auto *fb = new FaceButton(this);
+        // Tab moves between the boxes a pupil types into, never onto a button: a child who
+        // presses Tab and then Enter must not press EXIT by accident. A button still takes the
+        // focus when the screen gives it (Start, Next) or when it is clicked.
+        fb->setFocusPolicy(Qt::ClickFocus);
         connect(fb, &QPushButton::clicked, this, [this, slot] { click(slot); });
         w = fb;
         break;
