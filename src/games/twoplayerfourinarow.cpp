@@ -53,6 +53,8 @@ TwoPlayerFourInARow::TwoPlayerFourInARow(App &app)
     Control &pass = strip(button("pass", "PASS", passLeft, y, 1400, h), 20);
     pass.backColor = rgb(255, 230, 120);
     pass.enabled = false;
+    // The second press of a double-click would hand the turn straight back.
+    pass.doubleClicks = false;
     const int exitLeft = kWidth - kNumberMargin - kNumberWidth;
     strip(button("exit", "Exit", exitLeft, y, kNumberWidth, h), 20).backColor = rgb(250, 150, 150);
     setFocus("Command1");

@@ -103,7 +103,9 @@ TEST(TwoPlayerFourInARow, TurnsPassOnEveryClaimWrongCellAndPass)
     EXPECT_EQ(d.platform.messages(),
               std::vector<std::string>{"That is not correct! Your turn is passed to Ben."});
     EXPECT_EQ(d.caption("text1"), "Ben choose your two numbers.");
+    // A double-click on PASS hands the turn over once, not there and back.
     d.click("pass");
+    d.doubleClick("pass");
     EXPECT_EQ(d.caption("text1"), "Ann choose your two numbers.");
     d.click("Label1", wrong); // no numbers chosen: a reminder, nothing claimed
     EXPECT_EQ(g.screen().board().claimed(), 2);
