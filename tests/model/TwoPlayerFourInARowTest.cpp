@@ -48,7 +48,8 @@ TEST(TwoPlayerFourInARow, NamesMustBeShorterThanFifteenLetters)
     EXPECT_EQ(d.caption("p1"), elodie);
     EXPECT_FALSE(d.visible("player1"));
     EXPECT_EQ(d.caption("text1"), "Player 2, please enter your name.");
-    d.typeEnter("player2", "Benjamin Smith"); // 14 letters
+    // 14 letters: blanks typed around a name are not part of it.
+    d.typeEnter("player2", "  Benjamin Smith ");
     EXPECT_EQ(d.caption("p2"), "Benjamin Smith");
     EXPECT_EQ(d.caption("text1"), elodie + " choose your two numbers.");
     // Player 1 (red) starts; the waiting player's name is faded.
