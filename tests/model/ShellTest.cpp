@@ -33,7 +33,7 @@ TEST_F(Shell, CoverHandsOverAndExitWithNoPupilEndsAtOnce)
 TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
 {
     // Every saved field holds a value of its own before NEW; exactly the listed ones become the
-    // whole number 0 (DartsBest a copy of that 0) and every other one is kept as it was.
+    // whole number 0 (DartsBest a copy of that 0) and every other one keeps its value.
     const std::set<std::string_view> reset = {
         "MakeTenBest",    "MakeAnyBest", "MakeTenSubBest", "MakeAnySubBest", "ColumnSubBest",
         "MulBest",        "Mul21Best",   "Mul31Best",      "Mul22Best",      "Mul32Best",
