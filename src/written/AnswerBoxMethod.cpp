@@ -42,6 +42,19 @@ Control &AnswerBoxMethod::noteBox(std::string name, std::string spoken, int left
     return c;
 }
 
+std::vector<AnswerBoxMethod::Digit>
+AnswerBoxMethod::answerDigits(int answer, std::initializer_list<const char *> boxes)
+{
+    std::vector<Digit> digits;
+    int rest = answer;
+    for (const char *box : boxes) {
+        const int value = rest > 0 || digits.empty() ? rest % 10 : kLeading;
+        digits.push_back({box, value, value != kLeading && digits.size() < 3});
+        rest /= 10;
+    }
+    return digits;
+}
+
 void AnswerBoxMethod::beginAnswer(std::vector<Digit> digits)
 {
     clearPage();
@@ -124,7 +137,8 @@ void AnswerBoxMethod::markAnswer()
         const Digit &d = digits_[i];
         Control &c = ctl(d.box);
         if (marks_[i] == Mark::Open) {
-            const bool right = d.value < 0 ? c.caption.empty() : c.caption == numberText(d.value);
+            const bool right = d.value == kLeading ? c.caption.empty() || c.caption == "0"
+                                                   : c.caption == numberText(d.value);
             marks_[i] = right ? Mark::Right : Mark::Wrong;
             c.enabled = !right;
             c.backColor = right ? kRightBox : kWrongBox;

@@ -49,10 +49,7 @@ void Sub33b::newQuestion()
     const int bottomUnits = drawDigit("text2", 10);
     const int difference = (topHundreds - bottomHundreds) * 100 + (topTens - bottomTens) * 10 +
                            (topUnits - bottomUnits);
-    // Every column is answered, with 0 where the difference has no digit there.
-    beginAnswer({{"Text11", difference % 10},
-                 {"Text12", difference / 10 % 10},
-                 {"Text13", difference / 100}});
+    beginAnswer(answerDigits(difference, {"Text11", "Text12", "Text13"}));
 }
 
 } // namespace nb

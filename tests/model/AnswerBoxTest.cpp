@@ -79,10 +79,10 @@ TEST(AnswerBox, MarkingRules)
     d.enter("Text12");
     EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text13Fill in H, T and U first.");
     EXPECT_EQ(d.caption("time") + d.text("Text12"), "03");
-    // A 0 in the thousands of a three-digit answer is wrong, as are wrong hundreds: four
+    // A 1 in the thousands of a three-digit answer is wrong, as are wrong hundreds: four
     // seconds; marking again without a change costs nothing more.
     d.type("Text13", "5");
-    d.type("Text14", "0");
+    d.type("Text14", "1");
     d.click("Command13");
     d.click("Command13");
     d.enter("Text13");
@@ -91,6 +91,7 @@ TEST(AnswerBox, MarkingRules)
     EXPECT_EQ(d.backColor("Text12"), kRight);
     d.key("Text14", 8);
     EXPECT_EQ(d.backColor("Text14"), colors::yellow) << "a changed red box is open again";
+    d.setText("Text14", "");
     d.type("Text13", "6");
     d.platform.queueDraw(0.0);
     d.typeEnter("Text15", "1");
@@ -107,16 +108,69 @@ TEST(AnswerBox, MarkingRules)
     d.typeEnter("Text14", "2");
     EXPECT_TRUE(d.visible("Command10"));
 
-    // Subtraction answers every column: 512 - 481 needs 0 hundreds.
+    // Subtraction: 512 - 481 = 31 needs its tens and units before it is marked.
     d.click("Command22");
     d.open("sub33b");
     queueDraws(d, columnDraws({512, 481}));
     d.click("Command11");
-    d.type("Text11", "1");
+    d.typeEnter("Text11", "1");
+    EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text12Fill in H, T and U first.");
     d.typeEnter("Text12", "3");
-    EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text13Fill in H, T and U first.");
-    d.typeEnter("Text13", "0");
     EXPECT_EQ(d.caption("time") + d.front().focusName(), "0Command10");
+}
+
+// The places in front of an answer's first digit are right left empty or with a 0 (31 or 031,
+// 638 or 0638); any other digit there is wrong, and a 0 inside or at the end of the answer must
+// be written.
+TEST(AnswerBox, PlacesInFrontOfTheAnswer)
+{
+    struct Case
+    {
+        const char *screen;
+        std::vector<int> numbers;
+        // Units, tens, hundreds (, thousands): "" leaves the box empty.
+        std::vector<const char *> entries;
+        const char *outcome; // "done", "missing" or the boxes marked wrong
+    };
+    const Case cases[] = {
+        {"ADD333b", {123, 204, 311}, {"8", "3", "6", ""}, "done"},
+        {"ADD333b", {123, 204, 311}, {"8", "3", "6", "0"}, "done"},
+        {"ADD333b", {123, 204, 311}, {"8", "3", "6", "1"}, "Text14"},
+        {"ADD333b", {999, 999, 999}, {"7", "9", "9", ""}, "Text14"},
+        {"ADD333b", {999, 999, 999}, {"7", "9", "9", "0"}, "Text14"},
+        {"ADD333b", {400, 300, 300}, {"0", "0", "0", "1"}, "done"},
+        {"ADD333b", {400, 300, 300}, {"0", "", "0", "1"}, "missing"},
+        {"sub33b", {512, 481}, {"1", "3", ""}, "done"},
+        {"sub33b", {512, 481}, {"1", "3", "0"}, "done"},
+        {"sub33b", {512, 481}, {"1", "3", "1"}, "Text13"},
+        {"sub33b", {305, 298}, {"7", "", ""}, "done"},
+        {"sub33b", {305, 298}, {"7", "0", "0"}, "done"},
+        {"sub33b", {305, 298}, {"7", "", "0"}, "done"},
+        {"sub33b", {305, 298}, {"7", "1", ""}, "Text12"},
+        {"sub33b", {510, 480}, {"", "3", ""}, "missing"},
+        {"sub33b", {510, 480}, {"0", "3", ""}, "done"},
+        {"sub33b", {700, 398}, {"2", "", "3"}, "missing"},
+        {"sub33b", {700, 398}, {"2", "0", "3"}, "done"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(std::string(c.screen) + " " + c.entries[0] + c.entries[1] + c.entries[2]);
+        Driver d;
+        d.open(c.screen);
+        queueDraws(d, columnDraws(c.numbers));
+        d.click("Command11");
+        d.platform.queueDraw(0.0); // the praise
+        std::string wrong;
+        for (std::size_t i = 0; i < c.entries.size(); ++i)
+            d.type("Text1" + std::to_string(i + 1), c.entries[i]);
+        d.click("Command13");
+        for (std::size_t i = 0; i < c.entries.size(); ++i)
+            if (d.backColor("Text1" + std::to_string(i + 1)) == kWrong)
+                wrong += "Text1" + std::to_string(i + 1);
+        const std::string outcome = d.visible("Command10")                               ? "done"
+                                    : d.caption("text17") == "Fill in H, T and U first." ? "missing"
+                                                                                         : wrong;
+        EXPECT_EQ(outcome, c.outcome);
+    }
 }
 
 } // namespace
