@@ -173,5 +173,41 @@ TEST(AnswerBox, PlacesInFrontOfTheAnswer)
     }
 }
 
+// The small boxes for carries and exchanges are big enough to click and read, and none covers the
+// ink of a digit of the sum (the middle of its square).
+TEST(AnswerBox, NoteBoxesAreReadableAndLeaveTheDigitsClear)
+{
+    struct Page
+    {
+        const char *screen;
+        std::vector<const char *> notes, digits;
+    };
+    const Page pages[] = {
+        {"ADD333b",
+         {"Text15", "Text16"},
+         {"text1", "text3", "Text5", "text10", "text4", "text2", "text20", "text19", "text18"}},
+        {"sub33b",
+         {"Text14", "Text15", "Text16", "text18"},
+         {"Label1", "Label2", "Text5", "text10", "text4", "text2"}},
+    };
+    for (const Page &p : pages) {
+        Driver d;
+        d.open(p.screen);
+        for (const char *note : p.notes) {
+            const Control &n = d.front().ctl(note);
+            SCOPED_TRACE(std::string(p.screen) + " " + note);
+            EXPECT_GE(std::min(n.width, n.height), 360);
+            for (const char *digit : p.digits) {
+                const Control &g = d.front().ctl(digit);
+                const int inkLeft = g.left + 280, inkRight = g.left + g.width - 280;
+                const int inkTop = g.top + 230, inkBottom = g.top + g.height - 230;
+                EXPECT_FALSE(n.left < inkRight && inkLeft < n.left + n.width && n.top < inkBottom &&
+                             inkTop < n.top + n.height)
+                    << "covers " << digit;
+            }
+        }
+    }
+}
+
 } // namespace
 } // namespace nb::test
