@@ -3,6 +3,8 @@
 #include "activity/AnswerBoxFilter.h"
 #include "core/NumberText.h"
 
+#include <algorithm>
+
 namespace nb {
 
 namespace {
@@ -98,14 +100,35 @@ void AnswerBoxMethod::onKeyPress(const std::string &name, int index, int &key)
         caption(name).clear();
         reopen(std::size_t(i));
     }
+    // Enter asks for the whole answer to be marked, also from a box left empty (a place in
+    // front of the answer, where the cursor may stop).
+    if (index == -1 && key == kEnterKey && isAnswerBox(name) && caption(name).empty()) {
+        key = 0;
+        markAnswer();
+        return;
+    }
     WrittenFrame::onKeyPress(name, index, key);
 }
 
 void AnswerBoxMethod::onChange(const std::string &name, int index)
 {
     const int i = digitIndex(name);
-    if (index == -1 && i >= 0 && marks_[std::size_t(i)] == Mark::Wrong)
+    if (index != -1 || i < 0)
+        return;
+    if (marks_[std::size_t(i)] == Mark::Wrong)
         reopen(std::size_t(i));
+    // A digit written moves the cursor on to the next empty box to the left, as the method goes
+    // from the units upwards; it stops at the hundreds, so that Enter after the last digit of a
+    // three-digit answer marks it rather than landing in an empty thousands box.
+    if (caption(name).empty())
+        return;
+    for (std::size_t next = std::size_t(i) + 1; next < std::min<std::size_t>(digits_.size(), 3);
+         ++next) {
+        if (marks_[next] == Mark::Open && caption(digits_[next].box).empty()) {
+            setFocus(digits_[next].box);
+            return;
+        }
+    }
 }
 
 void AnswerBoxMethod::submit(const std::string &, int)

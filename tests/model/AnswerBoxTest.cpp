@@ -6,6 +6,8 @@
 #include "written/AnswerBoxMethod.h"
 
 #include <algorithm>
+#include <array>
+#include <tuple>
 
 namespace nb::test {
 namespace {
@@ -206,6 +208,57 @@ TEST(AnswerBox, NoteBoxesAreReadableAndLeaveTheDigitsClear)
                     << "covers " << digit;
             }
         }
+    }
+}
+
+// Each digit written moves the cursor to the next empty box to the left, up to the hundreds, so a
+// pupil can write the answer from the units upwards with the keyboard alone and press Enter.
+TEST(AnswerBox, TheCursorMovesLeftAsDigitsAreWritten)
+{
+    struct Case
+    {
+        const char *screen;
+        std::vector<int> numbers;
+        // Box and digit typed, then the box the cursor is in.
+        std::vector<std::array<const char *, 3>> keys;
+    };
+    const Case cases[] = {
+        {"ADD333b",
+         {123, 204, 311},
+         {{"Text11", "8", "Text12"}, {"Text12", "3", "Text13"}, {"Text13", "6", "Text13"}}},
+        {"ADD333b",
+         {123, 204, 311},
+         {{"Text13", "6", "Text13"}, {"Text11", "8", "Text12"}, {"Text12", "3", "Text12"}}},
+        {"ADD333b", {999, 999, 999}, {{"Text14", "2", "Text14"}, {"Text12", "9", "Text13"}}},
+        {"sub33b", {512, 481}, {{"Text11", "1", "Text12"}, {"Text12", "3", "Text13"}}},
+        {"sub33b", {512, 481}, {{"Text16", "4", "Text16"}, {"Text11", "1", "Text12"}}},
+    };
+    for (const Case &c : cases) {
+        Driver d;
+        d.open(c.screen);
+        queueDraws(d, columnDraws(c.numbers));
+        d.click("Command11");
+        EXPECT_EQ(d.front().focusName(), "Text11");
+        for (const auto &[box, digit, then] : c.keys) {
+            d.front().setFocus(box);
+            d.type(box, digit);
+            EXPECT_EQ(d.front().focusName(), then) << c.screen << " " << box << digit;
+        }
+    }
+    // Enter where the cursor stops marks the answer, also in an empty box in front of it.
+    for (const auto &[screen, numbers, digits] :
+         {std::tuple{"ADD333b", std::vector{123, 204, 311}, "836"},
+          std::tuple{"sub33b", std::vector{512, 481}, "13"}}) {
+        Driver d;
+        d.open(screen);
+        queueDraws(d, columnDraws(numbers));
+        d.click("Command11");
+        d.platform.queueDraw(0.0);
+        for (const char *digit = digits; *digit; ++digit)
+            d.type(std::string(d.front().focusName()), std::string(1, *digit));
+        d.enter(std::string(d.front().focusName()));
+        EXPECT_EQ(d.caption("text17") + d.front().focusName(), "That's correct !Command10")
+            << screen;
     }
 }
 

@@ -1,0 +1,155 @@
+// The guided written-method screens played in the window as a pupil plays them: the keyboard
+// only, Enter after every entry and after every praise, wrong entries on the way. The focus must
+// always be where the next key belongs, never on Exit, and the closing question must come after
+// the fifth question.
+#include "core/App.h"
+#include "core/Screen.h"
+#include "shell/AllScreens.h"
+#include "ui/MainWindow.h"
+#include "ui/QtPlatform.h"
+#include "ui/ScreenView.h"
+#include "written/GuidedSteps.h"
+
+#include <QApplication>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace nb::ui {
+namespace {
+
+class WrittenPlay : public ::testing::TestWithParam<const char *>
+{
+protected:
+    WrittenPlay()
+    {
+        registerAllScreens(registry);
+        platform.setWindow(&window);
+        platform.setAnswerer([this](const BoxRequest &r) {
+            boxes.push_back(r.text);
+            return BoxAnswer{kNo, {}};
+        });
+    }
+    QWidget *focus() { return QApplication::focusWidget(); }
+    QWidget *widget(const std::string &name) { return window.frontView()->widgetFor(name); }
+    void press(int key)
+    {
+        QWidget *f = focus();
+        ASSERT_NE(f, nullptr);
+        ASSERT_NE(f, widget("Command22")) << "Enter here would leave the exercise";
+        QTest::keyClick(f, Qt::Key(key));
+    }
+    void type(const std::string &text)
+    {
+        for (char c : text)
+            press(Qt::Key_0 + (c - '0'));
+        press(Qt::Key_Return);
+    }
+
+    QtPlatform platform;
+    ScreenRegistry registry;
+    App app{platform, registry};
+    MainWindow window{app};
+    std::vector<std::string> boxes;
+};
+
+class AnswerBoxPlay : public WrittenPlay
+{};
+
+TEST_P(WrittenPlay, FiveQuestionsFromTheKeyboardAlone)
+{
+    window.resize(1024, 768);
+    window.show();
+    ASSERT_TRUE(window.start(GetParam()));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.syncAll(true);
+    auto *screen = dynamic_cast<const GuidedSteps *>(app.front());
+    ASSERT_NE(screen, nullptr);
+
+    press(Qt::Key_Return); // Start
+    for (int question = 0; question < 5; ++question) {
+        SCOPED_TRACE(question);
+        ASSERT_EQ(app.front(), screen);
+        const std::size_t count = screen->steps().size();
+        for (std::size_t i = 0; i < count; ++i) {
+            const GuidedStep step = screen->steps()[i];
+            ASSERT_EQ(screen->currentStep(), i);
+            ASSERT_EQ(focus(), widget(step.box)) << step.box << ": " << step.prompt;
+            // One wrong entry on the first step of every question.
+            if (i == 0) {
+                type(std::to_string(step.value == 9 ? 8 : step.value + 1));
+                ASSERT_EQ(screen->currentStep(), 0u);
+                ASSERT_EQ(focus(), widget(step.box));
+            }
+            type(std::to_string(step.value));
+            if (HasFatalFailure())
+                return;
+        }
+        if (question < 4) {
+            ASSERT_EQ(focus(), widget("Command10"));
+            press(Qt::Key_Return); // Next
+        }
+    }
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(boxes[0].rfind("You completed 5 questions in ", 0), 0u) << boxes[0];
+    EXPECT_NE(app.front(), screen);
+}
+
+INSTANTIATE_TEST_SUITE_P(Guided, WrittenPlay,
+                         ::testing::Values("t22", "t32", "div1into3withremsum", "div1into3dec",
+                                           "div1into3frac"));
+
+// The answer-box screens from the keyboard: the digits of the answer typed from the units upwards
+// (the cursor moves left by itself, a thousands digit is clicked into), then Enter.
+TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
+{
+    window.resize(1024, 768);
+    window.show();
+    ASSERT_TRUE(window.start(GetParam()));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.syncAll(true);
+    Screen *screen = app.front();
+    const bool adding = std::string(GetParam()) == "ADD333b";
+    const auto number = [screen](std::initializer_list<const char *> labels) {
+        int n = 0;
+        for (const char *l : labels)
+            n = n * 10 + (screen->ctl(l).caption[0] - '0');
+        return n;
+    };
+    press(Qt::Key_Return); // Start
+    for (int question = 0; question < 5; ++question) {
+        SCOPED_TRACE(question);
+        const int bottom = number({"text10", "text4", "text2"});
+        const int answer = adding ? number({"text1", "text3", "Text5"}) + bottom +
+                                        number({"text20", "text19", "text18"})
+                                  : number({"Label1", "Label2", "Text5"}) - bottom;
+        ASSERT_EQ(focus(), widget("Text11"));
+        for (int place = 0, rest = answer; place < 3 && (rest > 0 || place == 0);
+             ++place, rest /= 10)
+            press(Qt::Key_0 + rest % 10);
+        if (answer >= 1000) {
+            QTest::mouseClick(widget("Text14"), Qt::LeftButton);
+            window.syncAll();
+            press(Qt::Key_0 + answer / 1000);
+        }
+        press(Qt::Key_Return);
+        if (HasFatalFailure())
+            return;
+        if (question < 4) {
+            ASSERT_EQ(focus(), widget("Command10")) << answer;
+            press(Qt::Key_Return); // Next
+        }
+    }
+    ASSERT_EQ(boxes.size(), 1u) << "score " << screen->ctl("score").caption;
+    EXPECT_EQ(boxes[0].rfind("You completed 5 questions in ", 0), 0u) << boxes[0];
+    EXPECT_NE(app.front(), screen);
+}
+
+INSTANTIATE_TEST_SUITE_P(AnswerBoxes, AnswerBoxPlay, ::testing::Values("ADD333b", "sub33b"));
+
+} // namespace
+} // namespace nb::ui
