@@ -48,6 +48,12 @@ void Sub33b::newQuestion()
     const int bottomHundreds = drawDigit("text10", topHundreds);
     const int bottomTens = drawDigit("text4", 10);
     const int bottomUnits = drawDigit("text2", 10);
+    // The bottom number is written as a number is written: 81, not 081.
+    if (bottomHundreds == 0) {
+        caption("text10").clear();
+        if (bottomTens == 0)
+            caption("text4").clear();
+    }
     const int difference = (topHundreds - bottomHundreds) * 100 + (topTens - bottomTens) * 10 +
                            (topUnits - bottomUnits);
     beginAnswer(answerDigits(difference, {"Text11", "Text12", "Text13"}));

@@ -262,5 +262,26 @@ TEST(AnswerBox, TheCursorMovesLeftAsDigitsAreWritten)
     }
 }
 
+// The numbers of a sum are written as numbers are written: no 0 in front of the bottom number of a
+// subtraction, and every 0 inside or at the end of it kept.
+TEST(AnswerBox, TheBottomNumberHasNoZerosInFront)
+{
+    struct Case
+    {
+        int top, bottom;
+        const char *shown; // hundreds|tens|units
+    };
+    for (const Case &c : {Case{512, 81, "|8|1"}, Case{512, 7, "||7"}, Case{512, 100, "1|0|0"},
+                          Case{905, 30, "|3|0"}, Case{905, 804, "8|0|4"}}) {
+        Driver d;
+        d.open("sub33b");
+        queueDraws(d, columnDraws({c.top, c.bottom}));
+        d.click("Command11");
+        EXPECT_EQ(d.caption("text10") + "|" + d.caption("text4") + "|" + d.caption("text2"),
+                  c.shown)
+            << c.top << " - " << c.bottom;
+    }
+}
+
 } // namespace
 } // namespace nb::test

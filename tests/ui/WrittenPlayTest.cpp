@@ -114,10 +114,12 @@ TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
     window.syncAll(true);
     Screen *screen = app.front();
     const bool adding = std::string(GetParam()) == "ADD333b";
+    // A number as its digit labels show it (an empty label in front of it reads as nothing).
     const auto number = [screen](std::initializer_list<const char *> labels) {
         int n = 0;
         for (const char *l : labels)
-            n = n * 10 + (screen->ctl(l).caption[0] - '0');
+            for (char c : screen->ctl(l).caption)
+                n = n * 10 + (c - '0');
         return n;
     };
     press(Qt::Key_Return); // Start
