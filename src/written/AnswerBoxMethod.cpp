@@ -94,11 +94,19 @@ int AnswerBoxMethod::digitIndex(const std::string &box) const
 
 void AnswerBoxMethod::onKeyPress(const std::string &name, int index, int &key)
 {
-    // A red digit is written afresh: the first key other than Enter empties it.
+    // The box typed in has the focus (the pupil may have clicked it): noted, so that a move
+    // on from it is a move the window makes.
+    if (index == -1 && isAnswerBox(name))
+        setFocus(name);
+    // A digit box holds one digit: a digit typed into a full box replaces it, and a red digit
+    // is written afresh by the first key other than Enter.
     const int i = digitIndex(name);
-    if (index == -1 && i >= 0 && marks_[std::size_t(i)] == Mark::Wrong && key != kEnterKey) {
-        caption(name).clear();
-        reopen(std::size_t(i));
+    if (index == -1 && i >= 0 && key != kEnterKey) {
+        const bool wrong = marks_[std::size_t(i)] == Mark::Wrong;
+        if (wrong || (key >= '0' && key <= '9' && !caption(name).empty()))
+            caption(name).clear();
+        if (wrong)
+            reopen(std::size_t(i));
     }
     // Enter asks for the whole answer to be marked, also from a box left empty (a place in
     // front of the answer, where the cursor may stop).

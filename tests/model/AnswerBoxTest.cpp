@@ -75,9 +75,9 @@ TEST(AnswerBox, MarkingRules)
     queueDraws(d, columnDraws({123, 204, 311})); // 638
     d.click("Command11");
     EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text11Write the answer, then CHECK.");
-    // Enter after the units alone marks nothing; a second digit does not fit in a box.
+    // Enter after the units alone marks nothing; a second digit replaces the first.
     d.typeEnter("Text11", "8");
-    d.type("Text12", "34");
+    d.type("Text12", "43");
     d.enter("Text12");
     EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text13Fill in H, T and U first.");
     EXPECT_EQ(d.caption("time") + d.text("Text12"), "03");
@@ -244,6 +244,18 @@ TEST(AnswerBox, TheCursorMovesLeftAsDigitsAreWritten)
             d.type(box, digit);
             EXPECT_EQ(d.front().focusName(), then) << c.screen << " " << box << digit;
         }
+    }
+    // A digit typed into a full box replaces the one there; Backspace still empties it.
+    {
+        Driver d;
+        d.open("sub33b");
+        queueDraws(d, columnDraws({512, 481}));
+        d.click("Command11");
+        d.type("Text12", "5");
+        d.type("Text12", "3");
+        EXPECT_EQ(d.text("Text12"), "3");
+        d.key("Text12", 8);
+        EXPECT_EQ(d.text("Text12"), "");
     }
     // Enter where the cursor stops marks the answer, also in an empty box in front of it.
     for (const auto &[screen, numbers, digits] :

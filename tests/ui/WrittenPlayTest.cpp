@@ -130,6 +130,13 @@ TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
                                         number({"text20", "text19", "text18"})
                                   : number({"Label1", "Label2", "Text5"}) - bottom;
         ASSERT_EQ(focus(), widget("Text11"));
+        if (question == 0) {
+            // A slip, then the units box clicked and the digit written over.
+            press(Qt::Key_0 + (answer + 1) % 10);
+            ASSERT_EQ(focus(), widget("Text12"));
+            QTest::mouseClick(widget("Text11"), Qt::LeftButton);
+            window.syncAll();
+        }
         for (int place = 0, rest = answer; place < 3 && (rest > 0 || place == 0);
              ++place, rest /= 10)
             press(Qt::Key_0 + rest % 10);
