@@ -188,6 +188,9 @@ void Perfection::onKeyPress(const std::string &name, int index, int &key)
         key = 0;
         return;
     }
+    // The square typed in has the focus (the pupil may have clicked it): noted, so that Enter
+    // moves on from here even to the square the cursor was last sent to.
+    setFocus("answer", index);
     if (key == 13) {
         key = 0;
         focusBlank(index); // the blank after this one (indices count from 1)

@@ -53,6 +53,33 @@ TEST_P(PuzzleKeys, EnterAfterStartKeepsTheRoundGoing)
     }
 }
 
+// Perfection: Enter moves on from the square the pupil is in, also one clicked into by hand.
+TEST_F(PuzzleKeys, PerfectionEnterMovesOnFromAClickedSquare)
+{
+    window.resize(1024, 768);
+    window.show();
+    ASSERT_TRUE(window.start("perfection"));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.syncAll(true);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); // START
+    window.syncAll();
+    QWidget *first = QApplication::focusWidget();
+    ASSERT_NE(first, nullptr);
+    QTest::keyClick(first, Qt::Key_Return);
+    window.syncAll();
+    QWidget *second = QApplication::focusWidget();
+    ASSERT_NE(second, first);
+    // Back to the first square by hand, then Enter: on to the second again.
+    QTest::mouseClick(first, Qt::LeftButton);
+    window.syncAll();
+    ASSERT_EQ(QApplication::focusWidget(), first);
+    QTest::keyClick(first, Qt::Key_5);
+    QTest::keyClick(first, Qt::Key_Return);
+    window.syncAll();
+    EXPECT_EQ(QApplication::focusWidget(), second);
+}
+
 INSTANTIATE_TEST_SUITE_P(Puzzles, PuzzleKeys, ::testing::Values("search", "perfection"));
 
 } // namespace
