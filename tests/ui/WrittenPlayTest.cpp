@@ -158,6 +158,25 @@ TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
     EXPECT_NE(app.front(), screen);
 }
 
+// CHECK clicked with the mouse before the answer is complete: the cursor goes back to the box to
+// fill, so the next digit typed lands there and not on the button.
+TEST_P(AnswerBoxPlay, CheckClickedTooEarlySendsTheCursorBack)
+{
+    window.resize(1024, 768);
+    window.show();
+    ASSERT_TRUE(window.start(GetParam()));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    window.syncAll(true);
+    press(Qt::Key_Return); // Start
+    press(Qt::Key_1);
+    ASSERT_EQ(focus(), widget("Text12"));
+    QTest::mouseClick(widget("Command13"), Qt::LeftButton);
+    window.syncAll();
+    EXPECT_EQ(app.front()->ctl("text17").caption, "Fill in H, T and U first.");
+    EXPECT_EQ(focus(), widget("Text12"));
+}
+
 INSTANTIATE_TEST_SUITE_P(AnswerBoxes, AnswerBoxPlay, ::testing::Values("ADD333b", "sub33b"));
 
 } // namespace
