@@ -2,57 +2,21 @@
 // only, Enter after every entry and after every praise, wrong entries on the way. The focus must
 // always be where the next key belongs, never on Exit, and the closing question must come after
 // the fifth question.
-#include "core/App.h"
-#include "core/Screen.h"
-#include "shell/AllScreens.h"
-#include "ui/MainWindow.h"
-#include "ui/QtPlatform.h"
-#include "ui/ScreenView.h"
+#include "PlayInWindow.h"
 #include "written/GuidedSteps.h"
-
-#include <QApplication>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace nb::ui {
 namespace {
 
-class WrittenPlay : public ::testing::TestWithParam<const char *>
+class WrittenPlay : public PlayInWindow
 {
 protected:
-    WrittenPlay()
-    {
-        registerAllScreens(registry);
-        platform.setWindow(&window);
-        platform.setAnswerer([this](const BoxRequest &r) {
-            boxes.push_back(r.text);
-            return BoxAnswer{kNo, {}};
-        });
-    }
-    QWidget *focus() { return QApplication::focusWidget(); }
-    QWidget *widget(const std::string &name) { return window.frontView()->widgetFor(name); }
-    void press(int key)
-    {
-        QWidget *f = focus();
-        ASSERT_NE(f, nullptr);
-        ASSERT_NE(f, widget("Command22")) << "Enter here would leave the exercise";
-        QTest::keyClick(f, Qt::Key(key));
-    }
     void type(const std::string &text)
     {
         for (char c : text)
             press(Qt::Key_0 + (c - '0'));
         press(Qt::Key_Return);
     }
-
-    QtPlatform platform;
-    ScreenRegistry registry;
-    App app{platform, registry};
-    MainWindow window{app};
-    std::vector<std::string> boxes;
 };
 
 class AnswerBoxPlay : public WrittenPlay
@@ -60,12 +24,9 @@ class AnswerBoxPlay : public WrittenPlay
 
 TEST_P(WrittenPlay, FiveQuestionsFromTheKeyboardAlone)
 {
-    window.resize(1024, 768);
-    window.show();
-    ASSERT_TRUE(window.start(GetParam()));
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    window.syncAll(true);
+    open(GetParam(), "Command22");
+    if (HasFatalFailure())
+        return;
     auto *screen = dynamic_cast<const GuidedSteps *>(app.front());
     ASSERT_NE(screen, nullptr);
 
@@ -106,12 +67,9 @@ INSTANTIATE_TEST_SUITE_P(Guided, WrittenPlay,
 // (the cursor moves left by itself, a thousands digit is clicked into), then Enter.
 TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
 {
-    window.resize(1024, 768);
-    window.show();
-    ASSERT_TRUE(window.start(GetParam()));
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    window.syncAll(true);
+    open(GetParam(), "Command22");
+    if (HasFatalFailure())
+        return;
     Screen *screen = app.front();
     const bool adding = std::string(GetParam()) == "ADD333b";
     // A number as its digit labels show it (an empty label in front of it reads as nothing).
@@ -134,15 +92,13 @@ TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
             // A slip, then the units box clicked and the digit written over.
             press(Qt::Key_0 + (answer + 1) % 10);
             ASSERT_EQ(focus(), widget("Text12"));
-            QTest::mouseClick(widget("Text11"), Qt::LeftButton);
-            window.syncAll();
+            click("Text11");
         }
         for (int place = 0, rest = answer; place < 3 && (rest > 0 || place == 0);
              ++place, rest /= 10)
             press(Qt::Key_0 + rest % 10);
         if (answer >= 1000) {
-            QTest::mouseClick(widget("Text14"), Qt::LeftButton);
-            window.syncAll();
+            click("Text14");
             press(Qt::Key_0 + answer / 1000);
         }
         press(Qt::Key_Return);
@@ -162,17 +118,13 @@ TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
 // fill, so the next digit typed lands there and not on the button.
 TEST_P(AnswerBoxPlay, CheckClickedTooEarlySendsTheCursorBack)
 {
-    window.resize(1024, 768);
-    window.show();
-    ASSERT_TRUE(window.start(GetParam()));
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    window.syncAll(true);
+    open(GetParam(), "Command22");
+    if (HasFatalFailure())
+        return;
     press(Qt::Key_Return); // Start
     press(Qt::Key_1);
     ASSERT_EQ(focus(), widget("Text12"));
-    QTest::mouseClick(widget("Command13"), Qt::LeftButton);
-    window.syncAll();
+    click("Command13");
     EXPECT_EQ(app.front()->ctl("text17").caption, "Fill in H, T and U first.");
     EXPECT_EQ(focus(), widget("Text12"));
 }
