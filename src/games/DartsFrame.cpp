@@ -86,12 +86,13 @@ void DartsFrame::buildBoard()
     Control &exit = button("Command14", "EXIT", kPanelLeft + 1700, 6150, 1500, 800);
     styled(exit, 18, true, Align::Center, colors::black).backColor = rgb(250, 150, 150);
 
-    // The wobble: how far from the click a dart lands.
+    // The wobble: how far from the click a dart lands. It starts at Steady, so a new board puts
+    // the dart exactly where the pupil clicks; the wobble is a challenge the pupil chooses.
     Control &wobble =
         label("wobbletitle", "How much does your dart wobble?", kBoardLeft, 6900, kBoardSize, 420);
     styled(wobble, 13, true, Align::Center, kChalk);
     styled(label("steady", "Steady", kBoardLeft, 7380, 1000, 400), 12, true, Align::Right, kChalk);
-    scrollBar("scroller", kBoardLeft + 1100, 7380, kBoardSize - 2200, 380, 0, 10, 2);
+    scrollBar("scroller", kBoardLeft + 1100, 7380, kBoardSize - 2200, 380, 0, 10, 0);
     styled(label("wobbly", "Wobbly", kBoardLeft + kBoardSize - 1000, 7380, 1000, 400), 12, true,
            Align::Left, kChalk);
     styled(label("text4", "", kBoardLeft, 7850, kBoardSize, 450), 12, false, Align::Center, kChalk);

@@ -121,6 +121,40 @@ TEST_F(DartsPlay, TheDartLandsExactlyTheWobbleTimesFiftyAwayInTheDrawnDirection)
     }
 }
 
+// Nobody has touched the wobble bar: the dart goes in exactly where the pupil clicked, and that
+// point is scored about (5873, 3713), not about the middle of the drawn board.
+TEST(DartsClicks, ANewBoardScoresTheClickedPointItself)
+{
+    struct Case
+    {
+        double x, y;
+        const char *bed, *number;
+    } cases[] = {
+        {5940, 2480, "Treble", "20"},
+        {5940, 1380, "Double", "20"},
+        {5873, 3713, "Bull", "50"},
+        {5940, 3780, "Outer bullseye", "25"},
+        {5873 + 200, 3713, "Single", "6"},
+        {5873, 3713 - 2499, "Double", "20"},
+        {5873 - 2500, 3713, "Missed", ""},
+        {4640, 3780, "Treble", "11"},
+        {5873 + 1399, 3713 + 1, "Treble", "6"},
+        {5873 - 1, 3713 + 1300, "Treble", "3"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << c.x << "," << c.y);
+        Driver d;
+        d.open("darts");
+        d.click("Command1");
+        d.platform.queueDraws({0.1, 0.9});
+        ASSERT_TRUE(d.pressAt(c.x, c.y));
+        EXPECT_EQ(d.control("arrow", 0).left, int(c.x));
+        EXPECT_EQ(d.control("arrow", 0).top, int(c.y));
+        EXPECT_EQ(d.caption("text1"), c.bed);
+        EXPECT_EQ(d.caption("text2"), c.number);
+    }
+}
+
 TEST(DartsClicks, EveryNumberIsFoundByClickingTheMiddleOfItsSector)
 {
     for (std::size_t i = 0; i < kClockwiseFromTop.size(); ++i) {
