@@ -27,6 +27,8 @@ constexpr double kDegree = 3.14159265358979323846 / 180;
 
 // Right-hand panel.
 constexpr int kPanelLeft = 9150, kPanelWidth = 3200;
+// The wobble bar's row under the board.
+constexpr int kRowLeft = 2950, kRowWidth = 5960;
 
 } // namespace
 
@@ -46,7 +48,7 @@ void DartsFrame::buildBoard()
 {
     // The board canvas lies first so that everything else is drawn over it. Its wall colour
     // makes it opaque: the window copies its cached picture without blending.
-    canvas("board", kBoardLeft, kBoardTop, kBoardSize, kBoardSize).backColor = kWall;
+    canvas("board", kBoardLeft, kBoardTop, kBoardWidth, kBoardHeight).backColor = kWall;
     drawBoard();
 
     // The numbers round the rim, clockwise from the top; presses go through to the board.
@@ -89,13 +91,13 @@ void DartsFrame::buildBoard()
     // The wobble: how far from the click a dart lands. It starts at Steady, so a new board puts
     // the dart exactly where the pupil clicks; the wobble is a challenge the pupil chooses.
     Control &wobble =
-        label("wobbletitle", "How much does your dart wobble?", kBoardLeft, 6900, kBoardSize, 420);
+        label("wobbletitle", "How much does your dart wobble?", kRowLeft, 6900, kRowWidth, 420);
     styled(wobble, 13, true, Align::Center, kChalk);
-    styled(label("steady", "Steady", kBoardLeft, 7380, 1000, 400), 12, true, Align::Right, kChalk);
-    scrollBar("scroller", kBoardLeft + 1100, 7380, kBoardSize - 2200, 380, 0, 10, 0);
-    styled(label("wobbly", "Wobbly", kBoardLeft + kBoardSize - 1000, 7380, 1000, 400), 12, true,
+    styled(label("steady", "Steady", kRowLeft, 7380, 1000, 400), 12, true, Align::Right, kChalk);
+    scrollBar("scroller", kRowLeft + 1100, 7380, kRowWidth - 2200, 380, 0, 10, 0);
+    styled(label("wobbly", "Wobbly", kRowLeft + kRowWidth - 1000, 7380, 1000, 400), 12, true,
            Align::Left, kChalk);
-    styled(label("text4", "", kBoardLeft, 7850, kBoardSize, 450), 12, false, Align::Center, kChalk);
+    styled(label("text4", "", kRowLeft, 7850, kRowWidth, 450), 12, false, Align::Center, kChalk);
     showWobble();
 
     // Holds the focus while no box is waiting for a score; Enter there only explains.

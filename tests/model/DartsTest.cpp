@@ -140,6 +140,10 @@ TEST(DartsClicks, ANewBoardScoresTheClickedPointItself)
         {4640, 3780, "Treble", "11"},
         {5873 + 1399, 3713 + 1, "Treble", "6"},
         {5873 - 1, 3713 + 1300, "Treble", "3"},
+        // The wall round the board takes darts too: they miss.
+        {2800, 3713, "Missed", ""},
+        {5873, 20, "Missed", ""},
+        {9120, 6850, "Missed", ""},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(testing::Message() << c.x << "," << c.y);
