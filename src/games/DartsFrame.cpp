@@ -151,7 +151,11 @@ void DartsFrame::drawBoard()
         wire.penWidth = 10;
         d.add(std::move(wire));
     }
-    const double inner = rings[2].from; // the first ring with sectors starts here
+    // The wires between sectors start where the first numbered bed does (outside the bulls).
+    const auto numbered = std::find_if(rings.begin(), rings.end(), [](const Ring &r) {
+        return r.bed != Bed::Bull && r.bed != Bed::OuterBull;
+    });
+    const double inner = numbered->from;
     for (int i = 0; i < 20; ++i) {
         const double a = (i * 18 + 9) * kDegree;
         d.line(cx + inner * std::sin(a), cy - inner * std::cos(a), cx + 2500 * std::sin(a),
