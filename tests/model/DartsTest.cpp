@@ -21,6 +21,12 @@ const PointTw kT20{5940, 2480},
     kD2 = bedAimPoint(true, 2, Bed::Double), kD20{5940, 1380}, kS11{4040, 3780},
     kBull{kCentreX, kCentreY}, kOffBoard{DartsFrame::kBoardLeft + 30, DartsFrame::kBoardTop + 30};
 
+// The rule messages, letter for letter.
+constexpr const char *kBust = "You've bust !!. Your darts will not count.";
+constexpr const char *kNeedsDouble =
+    "You've bust !!. You must finish on a double. The darts will not count.";
+constexpr const char *kWrongSum = "You worked your score out wrong. That dart doesn't count!";
+
 // A pupil at the board: throws where told and types the score left as read from the screen.
 class DartsPlay : public ::testing::Test
 {
@@ -218,7 +224,7 @@ TEST_F(DartsPlay, BadInputIsExplainedAndChangesNothing)
     EXPECT_TRUE(d.platform.messages().empty());
 
     d.typeEnter("newtarget", "999"); // wrong: the dart does not count
-    EXPECT_EQ(d.platform.lastMessage(), DartsFrame::kWrongSum);
+    EXPECT_EQ(d.platform.lastMessage(), kWrongSum);
     EXPECT_EQ(left(), 301);
     EXPECT_EQ(d.caption("text1"), "");
     EXPECT_FALSE(d.reachable("newtarget"));
@@ -273,9 +279,9 @@ TEST_F(DartsPlay, BustsRestoreTheTurnAndFinishesNeedADoubleOrTheBull)
         std::string message;
         int left;
     } cases[] = {
-        {{kT20, kT19, kS3}, DartsFrame::kBust, 121},        // leaves 1
-        {{kT20, kT19, kS4}, DartsFrame::kNeedsDouble, 121}, // out on a single
-        {{kT20, kT20, kT20}, DartsFrame::kBust, 121},       // past 0
+        {{kT20, kT19, kS3}, kBust, 121},        // leaves 1
+        {{kT20, kT19, kS4}, kNeedsDouble, 121}, // out on a single
+        {{kT20, kT20, kT20}, kBust, 121},       // past 0
         {{kT20, kT19, kD2}, "Well done. You have won a place in the next round!!", 301},
         {{kT20, kS11, kBull}, "Well done. You have won a place in the next round!!", 301},
     };
