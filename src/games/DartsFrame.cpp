@@ -27,6 +27,8 @@ constexpr double kDegree = 3.14159265358979323846 / 180;
 
 // Right-hand panel.
 constexpr int kPanelLeft = 9150, kPanelWidth = 3200;
+// The wobble bar's row under the board.
+constexpr int kRowLeft = 2950, kRowWidth = 5960;
 
 } // namespace
 
@@ -46,7 +48,7 @@ void DartsFrame::buildBoard()
 {
     // The board canvas lies first so that everything else is drawn over it. Its wall colour
     // makes it opaque: the window copies its cached picture without blending.
-    canvas("board", kBoardLeft, kBoardTop, kBoardSize, kBoardSize).backColor = kWall;
+    canvas("board", kBoardLeft, kBoardTop, kBoardWidth, kBoardHeight).backColor = kWall;
     drawBoard();
 
     // The numbers round the rim, clockwise from the top; presses go through to the board.
@@ -86,15 +88,16 @@ void DartsFrame::buildBoard()
     Control &exit = button("Command14", "EXIT", kPanelLeft + 1700, 6150, 1500, 800);
     styled(exit, 18, true, Align::Center, colors::black).backColor = rgb(250, 150, 150);
 
-    // The wobble: how far from the click a dart lands.
+    // The wobble: how far from the click a dart lands. It starts at Steady, so a new board puts
+    // the dart exactly where the pupil clicks; the wobble is a challenge the pupil chooses.
     Control &wobble =
-        label("wobbletitle", "How much does your dart wobble?", kBoardLeft, 6900, kBoardSize, 420);
+        label("wobbletitle", "How much does your dart wobble?", kRowLeft, 6900, kRowWidth, 420);
     styled(wobble, 13, true, Align::Center, kChalk);
-    styled(label("steady", "Steady", kBoardLeft, 7380, 1000, 400), 12, true, Align::Right, kChalk);
-    scrollBar("scroller", kBoardLeft + 1100, 7380, kBoardSize - 2200, 380, 0, 10, 2);
-    styled(label("wobbly", "Wobbly", kBoardLeft + kBoardSize - 1000, 7380, 1000, 400), 12, true,
+    styled(label("steady", "Steady", kRowLeft, 7380, 1000, 400), 12, true, Align::Right, kChalk);
+    scrollBar("scroller", kRowLeft + 1100, 7380, kRowWidth - 2200, 380, 0, 10, 0);
+    styled(label("wobbly", "Wobbly", kRowLeft + kRowWidth - 1000, 7380, 1000, 400), 12, true,
            Align::Left, kChalk);
-    styled(label("text4", "", kBoardLeft, 7850, kBoardSize, 450), 12, false, Align::Center, kChalk);
+    styled(label("text4", "", kRowLeft, 7850, kRowWidth, 450), 12, false, Align::Center, kChalk);
     showWobble();
 
     // Holds the focus while no box is waiting for a score; Enter there only explains.
@@ -148,7 +151,11 @@ void DartsFrame::drawBoard()
         wire.penWidth = 10;
         d.add(std::move(wire));
     }
-    const double inner = rings[2].from; // the first ring with sectors starts here
+    // The wires between sectors start where the first numbered bed does (outside the bulls).
+    const auto numbered = std::find_if(rings.begin(), rings.end(), [](const Ring &r) {
+        return r.bed != Bed::Bull && r.bed != Bed::OuterBull;
+    });
+    const double inner = numbered->from;
     for (int i = 0; i < 20; ++i) {
         const double a = (i * 18 + 9) * kDegree;
         d.line(cx + inner * std::sin(a), cy - inner * std::cos(a), cx + 2500 * std::sin(a),

@@ -21,8 +21,10 @@ public:
     void onChange(const std::string &name, int index) override;
     void onTimer(const std::string &name) override;
 
-    // Layout shared with tests and benchmarks: the board canvas and the screen.
-    static constexpr int kBoardLeft = 2950, kBoardTop = 800, kBoardSize = 5960;
+    // Layout shared with tests and benchmarks: the board canvas and the screen. The canvas is
+    // the whole wall between the two panels, so a dart thrown off the board's face misses
+    // rather than going nowhere; its edges lie on whole pixels of the unscaled window.
+    static constexpr int kBoardLeft = 2775, kBoardTop = 0, kBoardWidth = 6360, kBoardHeight = 6870;
     static constexpr int kWidth = 12600, kHeight = 8400;
     static constexpr int kDartsPerTurn = 3;
     static constexpr int kStartScore = 301;

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace nb::test {
@@ -179,6 +180,22 @@ std::uint32_t paintedAt(const Drawing &d, double x, double y)
     return kDefaultColor;
 }
 
+// Whether a wire (a drawn line) passes over the point.
+bool wireAt(const Drawing &d, double x, double y)
+{
+    for (const DrawOp &op : d.ops) {
+        if (op.kind != DrawOp::Kind::Line)
+            continue;
+        const PointTw a = op.points[0], b = op.points[1];
+        const double len2 = (b.x - a.x) * (b.x - a.x) + (b.y - a.y) * (b.y - a.y);
+        const double t =
+            std::clamp(((x - a.x) * (b.x - a.x) + (y - a.y) * (b.y - a.y)) / len2, 0.0, 1.0);
+        if (std::hypot(a.x + t * (b.x - a.x) - x, a.y + t * (b.y - a.y) - y) <= op.penWidth)
+            return true;
+    }
+    return false;
+}
+
 std::uint32_t expectedColour(const Hit &h)
 {
     switch (h.bed) {
@@ -238,6 +255,17 @@ TEST(DartsBoardDrawing, EveryDrawnRingAndNumberIsWhatIsScored)
                     ++sampled;
                 }
         EXPECT_GT(sampled, 1000);
+        // A wire runs along every sector line through every bed that takes a sector's number.
+        for (const Ring &ring : ringsOf(kind)) {
+            if (ring.bed == Bed::Bull || ring.bed == Bed::OuterBull || ring.bed == Bed::Missed)
+                continue;
+            for (int i = 0; i < 20; ++i) {
+                const double a = (i * 18 + 9) * kDeg, r = ring.from + 20;
+                EXPECT_TRUE(wireAt(board.drawing, kDrawnX + r * std::sin(a) - board.left,
+                                   kDrawnY - r * std::cos(a) - board.top))
+                    << bedName(ring.bed) << " from " << ring.from << ", line " << i;
+            }
+        }
         for (int i = 0; i < 20; ++i) {
             const Control &n = d.control("Label" + std::to_string(i + 1));
             const double x = n.left + n.width / 2.0 - kDrawnX, y = n.top + n.height / 2.0 - kDrawnY;

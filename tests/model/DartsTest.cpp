@@ -21,6 +21,12 @@ const PointTw kT20{5940, 2480},
     kD2 = bedAimPoint(true, 2, Bed::Double), kD20{5940, 1380}, kS11{4040, 3780},
     kBull{kCentreX, kCentreY}, kOffBoard{DartsFrame::kBoardLeft + 30, DartsFrame::kBoardTop + 30};
 
+// The rule messages, letter for letter.
+constexpr const char *kBust = "You've bust !!. Your darts will not count.";
+constexpr const char *kNeedsDouble =
+    "You've bust !!. You must finish on a double. The darts will not count.";
+constexpr const char *kWrongSum = "You worked your score out wrong. That dart doesn't count!";
+
 // A pupil at the board: throws where told and types the score left as read from the screen.
 class DartsPlay : public ::testing::Test
 {
@@ -121,6 +127,44 @@ TEST_F(DartsPlay, TheDartLandsExactlyTheWobbleTimesFiftyAwayInTheDrawnDirection)
     }
 }
 
+// Nobody has touched the wobble bar: the dart goes in exactly where the pupil clicked, and that
+// point is scored about (5873, 3713), not about the middle of the drawn board.
+TEST(DartsClicks, ANewBoardScoresTheClickedPointItself)
+{
+    struct Case
+    {
+        double x, y;
+        const char *bed, *number;
+    } cases[] = {
+        {5940, 2480, "Treble", "20"},
+        {5940, 1380, "Double", "20"},
+        {5873, 3713, "Bull", "50"},
+        {5940, 3780, "Outer bullseye", "25"},
+        {5873 + 200, 3713, "Single", "6"},
+        {5873, 3713 - 2499, "Double", "20"},
+        {5873 - 2500, 3713, "Missed", ""},
+        {4640, 3780, "Treble", "11"},
+        {5873 + 1399, 3713 + 1, "Treble", "6"},
+        {5873 - 1, 3713 + 1300, "Treble", "3"},
+        // The wall round the board takes darts too: they miss.
+        {2800, 3713, "Missed", ""},
+        {5873, 20, "Missed", ""},
+        {9120, 6850, "Missed", ""},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(testing::Message() << c.x << "," << c.y);
+        Driver d;
+        d.open("darts");
+        d.click("Command1");
+        d.platform.queueDraws({0.1, 0.9});
+        ASSERT_TRUE(d.pressAt(c.x, c.y));
+        EXPECT_EQ(d.control("arrow", 0).left, int(c.x));
+        EXPECT_EQ(d.control("arrow", 0).top, int(c.y));
+        EXPECT_EQ(d.caption("text1"), c.bed);
+        EXPECT_EQ(d.caption("text2"), c.number);
+    }
+}
+
 TEST(DartsClicks, EveryNumberIsFoundByClickingTheMiddleOfItsSector)
 {
     for (std::size_t i = 0; i < kClockwiseFromTop.size(); ++i) {
@@ -180,7 +224,7 @@ TEST_F(DartsPlay, BadInputIsExplainedAndChangesNothing)
     EXPECT_TRUE(d.platform.messages().empty());
 
     d.typeEnter("newtarget", "999"); // wrong: the dart does not count
-    EXPECT_EQ(d.platform.lastMessage(), DartsFrame::kWrongSum);
+    EXPECT_EQ(d.platform.lastMessage(), kWrongSum);
     EXPECT_EQ(left(), 301);
     EXPECT_EQ(d.caption("text1"), "");
     EXPECT_FALSE(d.reachable("newtarget"));
@@ -235,9 +279,9 @@ TEST_F(DartsPlay, BustsRestoreTheTurnAndFinishesNeedADoubleOrTheBull)
         std::string message;
         int left;
     } cases[] = {
-        {{kT20, kT19, kS3}, DartsFrame::kBust, 121},        // leaves 1
-        {{kT20, kT19, kS4}, DartsFrame::kNeedsDouble, 121}, // out on a single
-        {{kT20, kT20, kT20}, DartsFrame::kBust, 121},       // past 0
+        {{kT20, kT19, kS3}, kBust, 121},        // leaves 1
+        {{kT20, kT19, kS4}, kNeedsDouble, 121}, // out on a single
+        {{kT20, kT20, kT20}, kBust, 121},       // past 0
         {{kT20, kT19, kD2}, "Well done. You have won a place in the next round!!", 301},
         {{kT20, kS11, kBull}, "Well done. You have won a place in the next round!!", 301},
     };
