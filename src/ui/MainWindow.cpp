@@ -192,6 +192,15 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
         // START must not also press whatever the next screen has in that place.
         if (!pressBelongsHere(target)) {
             swallowRelease_ = true;
+            // The press may already have moved the focus (onto a game's PASS, say); put it back
+            // where the screen wants it once this event is over.
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    if (ScreenView *view = frontView())
+                        view->applyFocus(true);
+                },
+                Qt::QueuedConnection);
             return true;
         }
         break;

@@ -399,9 +399,15 @@ void ScreenView::mouseDown(int slot, QPointF pixels)
     Control *c = liveControl(slot);
     if (!c || !c->visible || !c->enabled)
         return;
+    // From the exact layout (origin and scale), not the widget's rounded pixel position, so a
+    // press on a drawn board lands on the twip it points at.
+    QWidget *w = bound_[std::size_t(slot)].widget;
+    const QPointF inView = w ? QPointF(w->mapTo(this, QPoint(0, 0))) + pixels : pixels;
     const double twips = kTwipsPerPixel / scale_;
+    const double x = (inView.x() - origin_.x()) * twips - c->left;
+    const double y = (inView.y() - origin_.y()) * twips - c->top;
     const std::string name = c->name;
-    app_.mouseDown(*screen_, name, c->index, pixels.x() * twips, pixels.y() * twips);
+    app_.mouseDown(*screen_, name, c->index, x, y);
     window_.afterEvent(true);
 }
 
