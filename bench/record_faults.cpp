@@ -53,7 +53,7 @@ bool wholeRecord(const fs::path &file)
         return false;
     const std::string &name = p.PupilName.asText();
     const long i = std::atol(name.substr(name.rfind(' ') + 1).c_str());
-    // Bytes of an older, longer record may follow the record itself: those are kept on purpose.
+    // Bytes of an older, longer record may follow the record itself (a save leaves them there).
     return name == "Pupil " + std::string(std::size_t(i % 97), 'x') + " " + std::to_string(i) &&
            p.MulBest.equalsNumber(double(i)) && p.DartsBest.equalsNumber(double(i));
 }

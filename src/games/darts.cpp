@@ -129,7 +129,7 @@ void Darts::finished()
 {
     if (round_ < kRounds) {
         tell("Well done. You have won a place in the next round!!");
-        // The round reached is kept as it stands, even below one reached before.
+        // DartsBest holds the round just reached, even when an earlier run got further.
         progress().DartsBest = Value::text(roundName(round_ + 1));
         beginRound(round_ + 1);
         return;
