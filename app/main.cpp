@@ -101,9 +101,10 @@ int main(int argc, char *argv[])
         window.installEventFilter(&reporter);
 
     window.show();
-    // The audio device is opened once the window is up, so the first right answer sounds at once.
+    // The audio device is opened just after the window has painted, long before a first answer
+    // can be typed, so that answer sounds at once and the first paint does not wait for it.
     if (platform.soundOn())
-        QTimer::singleShot(0, &window, [&platform] { platform.sound().prepare(); });
+        QTimer::singleShot(200, &window, [&platform] { platform.sound().prepare(); });
     const QString first = qEnvironmentVariable("NUMBROOK_START", "cover");
     if (!window.start(first.toStdString()) && !app.ended()) {
         std::fprintf(stderr, "no screen called %s\n", qPrintable(first));

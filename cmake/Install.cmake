@@ -45,19 +45,20 @@ foreach(page numbrook.1 numbrook-class.1)
 endforeach()
 
 # The Debian package: numbrook_<version>_amd64.deb, library dependencies found by dpkg-shlibdeps,
-# plus the rounded font the screens are designed for.
+# plus the rounded font the screens are designed for and the window-system plugins (which Qt's
+# GUI library only recommends).
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME numbrook)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "NUMBROOK developers <schools@numbrook.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "arithmetic practice for primary-school children")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "arithmetic practice for primary-school children\n A pupil types a name or loads a record, picks a topic and works through short\n timed activities: mental drills, guided written column methods, a factor race\n and games for two. Best times are saved in the pupil's record file.\n numbrook-class shows a whole class's best times in one table for teachers.")
+    "A pupil types a name or loads a record, picks a topic and works through short\ntimed activities: mental drills, guided written column methods, a factor race\nand games for two. Best times are saved in the pupil's record file.\nnumbrook-class shows a whole class's best times in one table for teachers.")
 set(CPACK_DEBIAN_PACKAGE_SECTION education)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${NUMBROOK_WEBSITE})
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-comic-neue")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-comic-neue, qt6-qpa-plugins")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 include(CPack)

@@ -1,5 +1,6 @@
 // The right-answer chime: how long beep() holds up the screen, and how soon after it the sound
-// starts. "Playing" is when the sound effect reports it has started; "first sample" is when the
+// starts. "Playing" is when the sound effect, on its audio thread, reports it has started its
+// stream; "first sample" is when the
 // chime's first loud sample comes back through the audio server's monitor of the output (only
 // where such a monitor exists, as with PulseAudio's null or real sinks). Prints 50th and 99th
 // percentiles. Without an audio device it measures the bell fallback's return time only.
@@ -17,6 +18,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -126,6 +128,18 @@ int main(int argc, char *argv[])
                 qPrintable(QMediaDevices::defaultAudioOutput().description()),
                 effect->status() == QSoundEffect::Ready ? "ready" : "NOT ready", loading.elapsed());
 
+    // Noted on the audio thread the moment the effect starts playing.
+    std::atomic<qint64> startedAt{-1};
+    QElapsedTimer epoch;
+    epoch.start();
+    QObject::connect(
+        effect, &QSoundEffect::playingChanged, effect,
+        [&] {
+            if (effect->isPlaying())
+                startedAt = epoch.nsecsElapsed();
+        },
+        Qt::DirectConnection);
+
     Monitor monitor;
     const bool listening = monitor.open();
     if (!listening)
@@ -134,20 +148,20 @@ int main(int argc, char *argv[])
     for (int i = 0; i < rounds; ++i) {
         if (listening)
             monitor.drain();
+        startedAt = -1;
         QElapsedTimer t;
         t.start();
+        const qint64 t0 = epoch.nsecsElapsed();
         platform.beep();
         returns.push_back(double(t.nsecsElapsed()) / 1e6);
-        while (!effect->isPlaying() && t.elapsed() < 1000)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
-        if (effect->isPlaying())
-            playing.push_back(double(t.nsecsElapsed()) / 1e6);
         if (listening) {
             const double ms = monitor.firstLoud(t, 1000);
             if (ms >= 0)
                 firstSample.push_back(ms);
         }
         runEvents(450); // let the chime finish, as between two answers
+        if (startedAt >= 0)
+            playing.push_back(double(startedAt - t0) / 1e6);
     }
     std::printf("right-answer chime, %d rounds\n", rounds);
     line("beep() returns after", returns);

@@ -7,6 +7,8 @@
 #include <QSoundEffect>
 #include <QUrl>
 
+#include <memory>
+
 namespace nb::ui {
 
 namespace {
@@ -28,9 +30,19 @@ Sound::Sound(QString settingsFile)
 {
     // A missing, unreadable or odd value means sound on.
     on_ = openSettings(settingsFile_)->value(kSoundKey, true).toBool();
+    audio_.setObjectName("numbrook audio");
 }
 
-Sound::~Sound() = default;
+Sound::~Sound()
+{
+    if (!effect_)
+        return;
+    // The effect belongs to the audio thread and is deleted there, before the thread ends.
+    QMetaObject::invokeMethod(
+        effect_, [e = effect_] { delete e; }, Qt::BlockingQueuedConnection);
+    audio_.quit();
+    audio_.wait();
+}
 
 void Sound::prepare()
 {
@@ -40,9 +52,20 @@ void Sound::prepare()
     const QAudioDevice device = QMediaDevices::defaultAudioOutput();
     if (device.isNull())
         return;
-    effect_ = std::make_unique<QSoundEffect>(device);
-    effect_->setSource(QUrl("qrc:/sounds/right.wav"));
-    effect_->setVolume(0.8f);
+    audio_.start();
+    effect_ = new QSoundEffect(device);
+    effect_->moveToThread(&audio_);
+    QSoundEffect *e = effect_;
+    std::atomic<bool> *failed = &failed_;
+    QMetaObject::invokeMethod(
+        e,
+        [e, failed] {
+            QObject::connect(e, &QSoundEffect::statusChanged, e,
+                             [e, failed] { failed->store(e->status() == QSoundEffect::Error); });
+            e->setSource(QUrl("qrc:/sounds/right.wav"));
+            e->setVolume(0.8f);
+        },
+        Qt::QueuedConnection);
 }
 
 void Sound::play()
@@ -50,13 +73,13 @@ void Sound::play()
     if (!on_)
         return;
     prepare();
-    // Loading has failed or the device went away: the bell still tells the pupil.
-    if (!effect_ || effect_->status() == QSoundEffect::Error) {
+    // No device, or the chime could not be loaded or played: the bell still tells the pupil.
+    if (!effect_ || failed_.load()) {
         QApplication::beep();
         return;
     }
     // While the chime is still loading, play() starts it as soon as it is ready.
-    effect_->play();
+    QMetaObject::invokeMethod(effect_, "play", Qt::QueuedConnection);
 }
 
 void Sound::setOn(bool on)

@@ -3,8 +3,9 @@
 // device without waiting for it, or the window system's bell when there is no audio device.
 // Whether it sounds at all is a choice kept in the user's settings between runs.
 #include <QString>
+#include <QThread>
 
-#include <memory>
+#include <atomic>
 
 class QSoundEffect;
 
@@ -29,14 +30,19 @@ public:
     // Remembers the choice; a settings folder that cannot be written only loses the memory.
     void setOn(bool on);
 
-    // For measurements: the effect once prepared, or null when the bell is used.
-    QSoundEffect *effect() const { return effect_.get(); }
+    // For measurements: the effect once prepared (it lives on the audio thread), or null when the
+    // bell is used.
+    QSoundEffect *effect() const { return effect_; }
 
 private:
     QString settingsFile_;
     bool on_ = true;
     bool prepared_ = false;
-    std::unique_ptr<QSoundEffect> effect_;
+    // Starting the audio stream can take milliseconds; it happens on this thread, never on the
+    // one that paints the screen.
+    QThread audio_;
+    QSoundEffect *effect_ = nullptr;
+    std::atomic<bool> failed_{false};
 };
 
 } // namespace nb::ui
