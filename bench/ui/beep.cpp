@@ -1,8 +1,7 @@
 // The right-answer chime: how long beep() holds up the screen, and how soon after it the sound
-// starts. "Playing" is when the sound effect, on its audio thread, reports it has started its
-// stream; "first sample" is when the
-// chime's first loud sample comes back through the audio server's monitor of the output (only
-// where such a monitor exists, as with PulseAudio's null or real sinks). Prints 50th and 99th
+// starts. "Playing" is when the player, on its audio thread, has started its stream; "first sample"
+// is when the chime's first loud sample comes back through the audio server's monitor of the output
+// (only where such a monitor exists, as with PulseAudio's null or real sinks). Prints 50th and 99th
 // percentiles. Without an audio device it measures the bell fallback's return time only.
 // Usage: bench_ui_beep [rounds]
 #include "ui/Look.h"
@@ -13,7 +12,6 @@
 #include <QAudioSource>
 #include <QElapsedTimer>
 #include <QMediaDevices>
-#include <QSoundEffect>
 #include <QTemporaryDir>
 #include <QtEndian>
 
@@ -60,7 +58,6 @@ public:
                 f.setChannelCount(1);
                 f.setSampleFormat(QAudioFormat::Int16);
                 source_ = std::make_unique<QAudioSource>(d, f);
-                source_->setBufferSize(960); // 10 ms
                 io_ = source_->start();
                 return io_ != nullptr;
             }
@@ -73,6 +70,7 @@ public:
         while (since.elapsed() < waitMs) {
             QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
             const QByteArray data = io_->readAll();
+            total += data.size();
             const double arrived = double(since.nsecsElapsed()) / 1e6;
             const int n = int(data.size() / 2);
             for (int i = 0; i < n; ++i)
@@ -86,6 +84,8 @@ public:
         runEvents(5);
         io_->readAll();
     }
+
+    long long total = 0;
 
 private:
     std::unique_ptr<QAudioSource> source_;
@@ -105,10 +105,10 @@ int main(int argc, char *argv[])
     platform.setSoundOn(true);
     nb::ui::Sound &sound = platform.sound();
     sound.prepare();
-    QSoundEffect *effect = sound.effect();
+    nb::ui::ChimePlayer *player = sound.player();
 
     std::vector<double> returns, playing, firstSample;
-    if (!effect) {
+    if (!player) {
         std::printf("no audio device: beep() rings the bell\n");
         for (int i = 0; i < rounds; ++i) {
             QElapsedTimer t;
@@ -119,25 +119,15 @@ int main(int argc, char *argv[])
         line("beep() returns after", returns);
         return 0;
     }
-    QElapsedTimer loading;
-    loading.start();
-    while (effect->status() != QSoundEffect::Ready && effect->status() != QSoundEffect::Error &&
-           loading.elapsed() < 3000)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-    std::printf("audio device: %s (chime %s after %lld ms)\n",
-                qPrintable(QMediaDevices::defaultAudioOutput().description()),
-                effect->status() == QSoundEffect::Ready ? "ready" : "NOT ready", loading.elapsed());
+    std::printf("audio device: %s\n",
+                qPrintable(QMediaDevices::defaultAudioOutput().description()));
 
-    // Noted on the audio thread the moment the effect starts playing.
+    // Noted on the audio thread the moment the stream starts.
     std::atomic<qint64> startedAt{-1};
     QElapsedTimer epoch;
     epoch.start();
     QObject::connect(
-        effect, &QSoundEffect::playingChanged, effect,
-        [&] {
-            if (effect->isPlaying())
-                startedAt = epoch.nsecsElapsed();
-        },
+        player, &nb::ui::ChimePlayer::started, player, [&] { startedAt = epoch.nsecsElapsed(); },
         Qt::DirectConnection);
 
     Monitor monitor;
@@ -158,6 +148,8 @@ int main(int argc, char *argv[])
             const double ms = monitor.firstLoud(t, 1000);
             if (ms >= 0)
                 firstSample.push_back(ms);
+            if (qEnvironmentVariableIsSet("BEEP_DEBUG"))
+                std::printf("round %d: %.3f ms, %lld bytes\n", i, ms, monitor.total);
         }
         runEvents(450); // let the chime finish, as between two answers
         if (startedAt >= 0)

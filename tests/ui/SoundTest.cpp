@@ -107,7 +107,7 @@ TEST_F(SoundChoice, PlayReturnsAtOnceWithOrWithoutAnAudioDevice)
     Sound sound(file());
     sound.prepare();
     if (QMediaDevices::audioOutputs().isEmpty()) {
-        EXPECT_EQ(sound.effect(), nullptr) << "no device: the bell is used";
+        EXPECT_EQ(sound.player(), nullptr) << "no device: the bell is used";
     }
     QElapsedTimer clock;
     clock.start();
