@@ -4,5 +4,5 @@ set -euo pipefail
 cd "$(dirname "$0")"
 bash scripts/setup.sh
 cmake --preset release >/dev/null
-cmake --build --preset release --target numbrook
+cmake --build --preset release --target numbrook numbrook-class
 exec ./build/release/app/numbrook "$@"

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QTimer>
 
 #include <cstring>
 #include <iostream>
@@ -35,6 +36,17 @@ int main(int argc, char *argv[])
     parser.process(app);
 
     nb::classview::ClassWindow window;
+    // NUMBROOK_SNAPSHOT=<file.png>: save the window as a picture once the table is shown, then
+    // quit (for documentation and checks).
+    const QString snapshot = qEnvironmentVariable("NUMBROOK_SNAPSHOT");
+    if (!snapshot.isEmpty())
+        QObject::connect(&window, &nb::classview::ClassWindow::shown, &window, [&window, snapshot] {
+            QTimer::singleShot(300, &window, [&window, snapshot] {
+                if (!window.grab().save(snapshot))
+                    std::cerr << "could not save " << snapshot.toStdString() << "\n";
+                QApplication::quit();
+            });
+        });
     const QStringList folders = parser.positionalArguments();
     window.openFolder(folders.isEmpty() ? nb::classview::ClassWindow::defaultFolder()
                                         : folders.first());

@@ -62,9 +62,10 @@ void BM_SaveFile(benchmark::State &state)
     const nb::PupilProgress p = busyPupil();
     const fs::path file = folder.path / "zoe.DAT";
     for (auto _ : state) {
-        const std::string problem = nb::record::writeRecordFile(file, nb::record::encode(p));
-        if (!problem.empty())
-            state.SkipWithError(problem.c_str());
+        const nb::record::WriteOutcome out = nb::record::writeRecordFile(
+            file, nb::record::encode(p), nb::record::WriteMode::Replace);
+        if (!out.saved())
+            state.SkipWithError("the record could not be saved");
     }
 }
 BENCHMARK(BM_SaveFile)->Unit(benchmark::kMicrosecond);
@@ -73,7 +74,8 @@ void BM_LoadFile(benchmark::State &state)
 {
     Folder folder;
     const fs::path file = folder.path / "zoe.DAT";
-    nb::record::writeRecordFile(file, nb::record::encode(busyPupil()));
+    nb::record::writeRecordFile(file, nb::record::encode(busyPupil()),
+                                nb::record::WriteMode::Replace);
     nb::PupilProgress p;
     for (auto _ : state) {
         const nb::record::ReadOutcome r = nb::record::readRecordFile(file);
@@ -91,7 +93,7 @@ void BM_SaveThenLoad(benchmark::State &state)
     nb::PupilProgress p = busyPupil();
     const fs::path file = folder.path / "zoe.DAT";
     for (auto _ : state) {
-        nb::record::writeRecordFile(file, nb::record::encode(p));
+        nb::record::writeRecordFile(file, nb::record::encode(p), nb::record::WriteMode::Replace);
         const nb::record::ReadOutcome r = nb::record::readRecordFile(file);
         nb::record::store(*r.values, p);
     }

@@ -80,6 +80,7 @@ ClassWindow::ClassWindow(QWidget *parent)
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->horizontalHeader()->setDefaultSectionSize(110);
     table_->horizontalHeader()->setMinimumSectionSize(60);
+    table_->verticalHeader()->hide(); // the frozen name column starts at the table's edge
 
     auto *side = new QWidget;
     auto *sideLayout = new QVBoxLayout(side);
@@ -235,7 +236,11 @@ void ClassWindow::hideUnusedColumns()
 {
     for (int c = 0; c < model_->columnCount(); ++c)
         table_->setColumnHidden(c, !model_->columnUsed(c));
-    table_->horizontalHeader()->resizeSection(ClassTableModel::kPupilColumn, 200);
+    // Wide enough for each heading and value; names get a little more room.
+    table_->resizeColumnsToContents();
+    QHeaderView *header = table_->horizontalHeader();
+    header->resizeSection(ClassTableModel::kPupilColumn,
+                          std::max(header->sectionSize(ClassTableModel::kPupilColumn) + 24, 160));
 }
 
 void ClassWindow::exportCsv()

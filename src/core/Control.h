@@ -92,6 +92,9 @@ struct Control
 
     int interval = 0;     // Timer: milliseconds
     bool timerOn = false; // Timer: running
+    // Timer: raising it starts a running clock's interval afresh (the next tick comes a whole
+    // interval later).
+    unsigned timerRestarts = 0;
 
     // Input. A mouse-transparent control (a label, image or shape over a board) lets a press
     // through to the control beneath it. A control that takes no double-clicks ignores the second

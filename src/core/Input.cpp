@@ -15,7 +15,6 @@ void applyClick(std::deque<Control> &controls, Control &clicked)
     }
 }
 
-namespace {
 std::size_t utf8Length(const std::string &text)
 {
     std::size_t n = 0;
@@ -23,7 +22,6 @@ std::size_t utf8Length(const std::string &text)
         n += (b & 0xC0) != 0x80;
     return n;
 }
-} // namespace
 
 bool applyKey(Control &box, int key)
 {

@@ -19,6 +19,9 @@ void applyClick(std::deque<Control> &controls, Control &clicked);
 // Returns whether the text changed.
 bool applyKey(Control &box, int key);
 
+// The number of characters (not bytes) of a UTF-8 text.
+std::size_t utf8Length(const std::string &text);
+
 // UTF-8 text of one character code.
 std::string utf8(int code);
 

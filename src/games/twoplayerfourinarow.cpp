@@ -21,9 +21,14 @@ std::size_t letters(const std::string &text)
     return n;
 }
 
-bool blank(const std::string &text)
+// The name without the blanks a player may type before or after it: they would show in every
+// message that names the player.
+std::string trimmed(const std::string &text)
 {
-    return text.find_first_not_of(' ') == std::string::npos;
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 } // namespace
@@ -53,6 +58,8 @@ TwoPlayerFourInARow::TwoPlayerFourInARow(App &app)
     Control &pass = strip(button("pass", "PASS", passLeft, y, 1400, h), 20);
     pass.backColor = rgb(255, 230, 120);
     pass.enabled = false;
+    // The second press of a double-click would hand the turn straight back.
+    pass.doubleClicks = false;
     const int exitLeft = kWidth - kNumberMargin - kNumberWidth;
     strip(button("exit", "Exit", exitLeft, y, kNumberWidth, h), 20).backColor = rgb(250, 150, 150);
     setFocus("Command1");
@@ -113,17 +120,18 @@ void TwoPlayerFourInARow::nameEntered(int player)
 {
     const std::string n = std::to_string(player);
     Control &box = ctl("player" + n);
-    if (blank(box.caption))
+    const std::string typed = trimmed(box.caption);
+    if (typed.empty())
         return; // nothing typed yet: the question stays
-    if (letters(box.caption) >= kNameLimit) {
+    if (letters(typed) >= kNameLimit) {
         tellOk("You must use less than 15 letters.");
         box.caption.clear();
         return;
     }
-    names_[player - 1] = box.caption;
+    names_[player - 1] = typed;
     box.visible = false;
     box.enabled = false;
-    caption("p" + n) = box.caption;
+    caption("p" + n) = typed;
     setVisible("p" + n, true);
     if (player == 1) {
         askName(2);

@@ -48,15 +48,27 @@ LatticeFrame::LatticeFrame(App &app, Value PupilProgress::*best, Sizes sizes,
         &canvas("lattice", left_ - band_, top_, columns * cell_ + band_, rows * cell_ + band_);
     canvas_->mouseTransparent = true;
     redraw();
+    const int digitTop = top_ - digitBox - 200;
+    // Trays under the factors' digits: A's along the top, B's down the side.
+    const auto tray = [this](const char *name, int l, int t, int w, int h) {
+        Control &c = shape(name, ShapeKind::RoundedRectangle, kPending, kRule, l, t, w, h);
+        c.mouseTransparent = true;
+    };
+    tray("Shape3", left_ + 60, digitTop - 60, columns * cell_ - 120, digitBox + 120);
+    tray("Shape4", right + 50, top_ + 60, digitBox + 120, rows * cell_ - 120);
     halo();
     shape("Shape1", ShapeKind::Rectangle, kDefaultColor, kInk, left_, top_, columns * cell_,
           rows * cell_)
         .lineWidth = 60;
+    // The band's outer edges, left and bottom, ruled over its outline.
+    line("Line1", left_ - band_, top_ + band_, left_ - band_, bottom + band_, kRule)
+        .mouseTransparent = true;
+    line("Line2", left_ - band_, bottom + band_, right - band_, bottom + band_, kRule)
+        .mouseTransparent = true;
 
-    fixedLabel("Questions", "Question", 0, kPageLeft, 600, 2600, 800, 24);
-    questionLine(kPageLeft + 2700, 450, 3800, 1050);
+    fixedLabel("Questions", "Question", 0, kPageLeft, 420, 2600, 800, 24);
+    questionLine(kPageLeft + 2700, 250, 3800, 1050);
 
-    const int digitTop = top_ - digitBox - 200;
     for (int c = 0; c < columns; ++c)
         answerBox("question", "digit of the first number", lattice_.aBox(c),
                   left_ + c * cell_ + (cell_ - digitBox) / 2, digitTop, digitBox, digitBox, 30);
@@ -124,7 +136,8 @@ LayoutFrame::StageColours LatticeFrame::colours(LayoutStep::Stage stage) const
 {
     if (stage == LayoutStep::Stage::SetOut)
         return {colors::lightRed, colors::red};
-    return {colors::yellow, kLightOrange};
+    // An answered triangle shows as such on the lattice, not on its box: the box stays yellow.
+    return {colors::yellow, kDefaultColor};
 }
 
 void LatticeFrame::questionStarted()

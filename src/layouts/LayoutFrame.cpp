@@ -3,6 +3,7 @@
 #include "activity/AnswerBoxFilter.h"
 #include "activity/BestTimeCheck.h"
 #include "activity/PraiseList.h"
+#include "core/Input.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
 
@@ -169,12 +170,34 @@ void LayoutFrame::onKeyPress(const std::string &name, int index, int &key)
         key = 0;
         return;
     }
+    // Untidy text ("07", "12a", a lone "-") is wiped and the key that found it goes nowhere:
+    // the pupil starts the box again. Only an empty box lets the key in.
+    const bool hadText = !box.caption.empty();
     const bool submitted = filterAnswerKey(box.caption, key).has_value();
+    if (hadText && box.caption.empty()) {
+        key = 0;
+        return;
+    }
     const LayoutStep *step = waiting();
     // The entry is compared as the number it reads as, not cut to 16 bits: a 3-digit by 2-digit
     // product reaches 35341.
     if (submitted && step && step->index == index && name == step->box)
         check(box, readNumber(box.caption));
+}
+
+void LayoutFrame::onScreenKey(int key)
+{
+    // A key that finds no box (the focus strayed from the box) belongs to the box that is
+    // waiting: the key goes in there and the focus is asked back to it.
+    const LayoutStep *step = waiting();
+    if (!step)
+        return;
+    const std::string name = step->box;
+    const int index = step->index;
+    setFocus(name, index);
+    onKeyPress(name, index, key);
+    if (key != 0 && key != kEnterKey)
+        applyKey(ctl(name, index), key);
 }
 
 void LayoutFrame::start()

@@ -23,6 +23,7 @@ public:
     void onClick(const std::string &name, int index) override;
     void onTimer(const std::string &name) override;
     void onKeyPress(const std::string &name, int index, int &key) override;
+    void onScreenKey(int key) override;
 
     static constexpr int kQuestions = 5;
 

@@ -188,6 +188,9 @@ void Perfection::onKeyPress(const std::string &name, int index, int &key)
         key = 0;
         return;
     }
+    // The square typed in has the focus (the pupil may have clicked it): noted, so that Enter
+    // moves on from here even to the square the cursor was last sent to.
+    setFocus("answer", index);
     if (key == 13) {
         key = 0;
         focusBlank(index); // the blank after this one (indices count from 1)
@@ -218,29 +221,30 @@ void Perfection::markIt()
     }
     filling_ = false;
     setEnabled("mark", false);
-    // Nothing is left to type: the focus rests on the result, never on EXIT.
-    setFocus("status");
     const int pc = PerfectionSquare::percent(right, square_.blankCount());
     caption("percent") = std::to_string(pc) + "%";
-    caption("status") = "You got " + std::to_string(right) + " out of " +
-                        std::to_string(square_.blankCount()) + " right. The red squares are wrong.";
-    if (pc == 100)
+    if (pc == 100) {
         caption("status") = "Perfect! Every square is right.";
-    finished(pc);
+        setFocus("status");
+        passed();
+        return;
+    }
+    // The marked square stays in view, with no box over it, until the pupil starts again; the
+    // focus rests on START, never on EXIT.
+    caption("status") = "You got " + std::to_string(right) + " out of " +
+                        std::to_string(square_.blankCount()) +
+                        " right. The red squares are wrong. Press START to try again.";
+    setEnabled("start", true);
+    setFocus("start");
 }
 
-void Perfection::finished(int percent)
+void Perfection::passed()
 {
-    if (percent == 100) {
-        level_ = levelPassed(platform(), progress(), progress().PerfectionBest, level_,
-                             PerfectionSquare::kLevels,
-                             "Perfect! You have passed level " + std::to_string(level_));
-        if (level_ == 0)
-            return leave();
-    } else if (ask("You got " + std::to_string(percent) + "% right. Do you want another go ?") !=
-               kYes) {
+    level_ = levelPassed(platform(), progress(), progress().PerfectionBest, level_,
+                         PerfectionSquare::kLevels,
+                         "Perfect! You have passed level " + std::to_string(level_));
+    if (level_ == 0)
         return leave();
-    }
     begin();
 }
 

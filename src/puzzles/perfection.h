@@ -32,7 +32,8 @@ private:
     void layOut(); // places the square's controls for its side
     void begin();
     void markIt();
-    void finished(int percent);
+    // 100%: the level is passed and the next one offered.
+    void passed();
     void leave();
     void focusBlank(int from); // the first blank from that place in reading order, wrapping
     int ask(const std::string &text);

@@ -15,10 +15,12 @@ void leaveProgram(App &app)
         return;
     }
     const int reply = ask(app.platform(), p, "Do you want to save?");
-    if (reply != kYes) {
+    if (reply == kNo) {
         app.endProgram();
         return;
     }
+    if (reply != kYes)
+        return; // the box was closed or escaped: back to the program, nothing lost
     // Saving ends the program; a build without the save screen just ends.
     if (!app.registry().has("Filesave"))
         app.endProgram();

@@ -109,28 +109,32 @@ AnswerBox::AnswerBox(ScreenView &view, int slot, QWidget *parent)
     , slot_(slot)
 {}
 
-void AnswerBox::keyPressEvent(QKeyEvent *e)
+int keyCode(const QKeyEvent &e, bool altIsShortcut)
 {
-    int code = 0;
-    switch (e->key()) {
+    switch (e.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        code = 13;
-        break;
+        return 13;
     case Qt::Key_Backspace:
-        code = 8;
-        break;
+        return 8;
     case Qt::Key_Escape:
-        code = 27;
-        break;
+        return 27;
     default:
-        // Shortcuts (copy, paste, undo...) act as usual; the box reports any change it makes.
-        if (e->modifiers() & (Qt::ControlModifier | Qt::MetaModifier))
-            break;
-        if (const QList<uint> chars = e->text().toUcs4();
-            chars.size() == 1 && chars[0] >= 32 && chars[0] != 127)
-            code = int(chars[0]);
+        break;
     }
+    Qt::KeyboardModifiers shortcut = Qt::ControlModifier | Qt::MetaModifier;
+    if (altIsShortcut)
+        shortcut |= Qt::AltModifier;
+    if (e.modifiers() & shortcut)
+        return 0;
+    const QList<uint> chars = e.text().toUcs4();
+    return chars.size() == 1 && chars[0] >= 32 && chars[0] != 127 ? int(chars[0]) : 0;
+}
+
+void AnswerBox::keyPressEvent(QKeyEvent *e)
+{
+    // Shortcuts (copy, paste, undo...) act as usual; the box reports any change it makes.
+    const int code = keyCode(*e);
     if (code == 0)
         return QLineEdit::keyPressEvent(e);
     view_.typeKey(slot_, *this, e, code);

@@ -6,6 +6,7 @@
 #include "ui/Pictures.h"
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -49,6 +50,11 @@ protected:
 };
 using CheckBoxView = MarkButton<QCheckBox>;
 using OptionView = MarkButton<QRadioButton>;
+
+// The character code a key press means to a screen: 13 Enter, 8 Backspace, 27 Escape, else the
+// one character it types; 0 for keys that type nothing and for shortcuts (Ctrl, Meta, and with
+// `altIsShortcut` Alt).
+int keyCode(const QKeyEvent &e, bool altIsShortcut = false);
 
 // A text box: keys that type something (and Enter, Backspace, Escape) go to the model before
 // they reach the box; the model may swallow or replace them.

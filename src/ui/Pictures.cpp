@@ -119,10 +119,8 @@ constexpr quint32 kDiskMagic = 0x4e425043; // "NBPC"
 
 QString diskCacheFile(const QString &path, QSize pixels)
 {
-    static const QString folder = [] {
-        const QString base = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-        return base.isEmpty() ? QString() : base + "/pictures";
-    }();
+    const QString base = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
+    const QString folder = base.isEmpty() ? QString() : base + "/pictures";
     if (folder.isEmpty() || qEnvironmentVariableIsSet("NUMBROOK_NO_PICTURE_CACHE"))
         return {};
     QFile svg(path);

@@ -136,6 +136,10 @@ void ScreenView::make(Bound &b, const Control &c, int slot)
     case ControlKind::Button:
     case ControlKind::PictureButton: {
         auto *fb = new FaceButton(this);
+        // Tab moves between the boxes a pupil types into, never onto a button: a child who
+        // presses Tab and then Enter must not press EXIT by accident. A button still takes the
+        // focus when the screen gives it (Start, Next) or when it is clicked.
+        fb->setFocusPolicy(Qt::ClickFocus);
         connect(fb, &QPushButton::clicked, this, [this, slot] { click(slot); });
         w = fb;
         break;
@@ -265,9 +269,10 @@ void ScreenView::syncTimer(Bound &b, const Control &c)
 {
     if (changed(b.last.interval, c.interval) || b.fresh)
         b.timer->setInterval(std::max(1, c.interval));
+    const bool restart = changed(b.last.timerRestarts, c.timerRestarts) && !b.fresh;
     b.fresh = false;
     const bool run = screen_ && !paused_ && c.timerOn && c.interval > 0;
-    if (run && !b.timer->isActive())
+    if (run && (!b.timer->isActive() || restart))
         b.timer->start();
     else if (!run && b.timer->isActive())
         b.timer->stop();
@@ -468,25 +473,7 @@ bool ScreenView::screenKey(QKeyEvent *e)
     // A key held down counts once.
     if (!screen_ || e->isAutoRepeat() || !app_.isLive(*screen_))
         return false;
-    int code = 0;
-    switch (e->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        code = 13;
-        break;
-    case Qt::Key_Escape:
-        code = 27;
-        break;
-    case Qt::Key_Backspace:
-        code = 8;
-        break;
-    default:
-        if (e->modifiers() & (Qt::ControlModifier | Qt::MetaModifier | Qt::AltModifier))
-            return false;
-        if (const QList<uint> chars = e->text().toUcs4();
-            chars.size() == 1 && chars[0] >= 32 && chars[0] != 127)
-            code = int(chars[0]);
-    }
+    const int code = keyCode(*e, true);
     if (code == 0)
         return false;
     app_.screenKey(*screen_, code);

@@ -40,12 +40,7 @@ void Add333b::newQuestion()
             i % 3 == 0 ? drawDigit(kDigitLabels[i], 9, 1) : drawDigit(kDigitLabels[i], 10);
         total += d * kPlace[i % 3];
     }
-    // Three numbers of at least 100 make at least 300: the hundreds are always there, the
-    // thousands only when the total reaches 1000.
-    beginAnswer({{"Text11", total % 10},
-                 {"Text12", total / 10 % 10},
-                 {"Text13", total / 100 % 10},
-                 {"Text14", total >= 1000 ? total / 1000 : -1, false}});
+    beginAnswer(answerDigits(total, {"Text11", "Text12", "Text13", "Text14"}));
 }
 
 } // namespace nb

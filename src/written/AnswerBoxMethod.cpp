@@ -3,6 +3,8 @@
 #include "activity/AnswerBoxFilter.h"
 #include "core/NumberText.h"
 
+#include <algorithm>
+
 namespace nb {
 
 namespace {
@@ -42,6 +44,19 @@ Control &AnswerBoxMethod::noteBox(std::string name, std::string spoken, int left
     return c;
 }
 
+std::vector<AnswerBoxMethod::Digit>
+AnswerBoxMethod::answerDigits(int answer, std::initializer_list<const char *> boxes)
+{
+    std::vector<Digit> digits;
+    int rest = answer;
+    for (const char *box : boxes) {
+        const int value = rest > 0 || digits.empty() ? rest % 10 : kLeading;
+        digits.push_back({box, value, value != kLeading && digits.size() < 3});
+        rest /= 10;
+    }
+    return digits;
+}
+
 void AnswerBoxMethod::beginAnswer(std::vector<Digit> digits)
 {
     clearPage();
@@ -79,11 +94,26 @@ int AnswerBoxMethod::digitIndex(const std::string &box) const
 
 void AnswerBoxMethod::onKeyPress(const std::string &name, int index, int &key)
 {
-    // A red digit is written afresh: the first key other than Enter empties it.
+    // The box typed in has the focus (the pupil may have clicked it): noted, so that a move
+    // on from it is a move the window makes.
+    if (index == -1 && isAnswerBox(name))
+        setFocus(name);
+    // A digit box holds one digit: a digit typed into a full box replaces it, and a red digit
+    // is written afresh by the first key other than Enter.
     const int i = digitIndex(name);
-    if (index == -1 && i >= 0 && marks_[std::size_t(i)] == Mark::Wrong && key != kEnterKey) {
-        caption(name).clear();
-        reopen(std::size_t(i));
+    if (index == -1 && i >= 0 && key != kEnterKey) {
+        const bool wrong = marks_[std::size_t(i)] == Mark::Wrong;
+        if (wrong || (key >= '0' && key <= '9' && !caption(name).empty()))
+            caption(name).clear();
+        if (wrong)
+            reopen(std::size_t(i));
+    }
+    // Enter asks for the whole answer to be marked, also from a box left empty (a place in
+    // front of the answer, where the cursor may stop).
+    if (index == -1 && key == kEnterKey && isAnswerBox(name) && caption(name).empty()) {
+        key = 0;
+        markAnswer();
+        return;
     }
     WrittenFrame::onKeyPress(name, index, key);
 }
@@ -91,8 +121,22 @@ void AnswerBoxMethod::onKeyPress(const std::string &name, int index, int &key)
 void AnswerBoxMethod::onChange(const std::string &name, int index)
 {
     const int i = digitIndex(name);
-    if (index == -1 && i >= 0 && marks_[std::size_t(i)] == Mark::Wrong)
+    if (index != -1 || i < 0)
+        return;
+    if (marks_[std::size_t(i)] == Mark::Wrong)
         reopen(std::size_t(i));
+    // A digit written moves the cursor on to the next empty box to the left, as the method goes
+    // from the units upwards; it stops at the hundreds, so that Enter after the last digit of a
+    // three-digit answer marks it rather than landing in an empty thousands box.
+    if (caption(name).empty())
+        return;
+    for (std::size_t next = std::size_t(i) + 1; next < std::min<std::size_t>(digits_.size(), 3);
+         ++next) {
+        if (marks_[next] == Mark::Open && caption(digits_[next].box).empty()) {
+            setFocus(digits_[next].box);
+            return;
+        }
+    }
 }
 
 void AnswerBoxMethod::submit(const std::string &, int)
@@ -124,7 +168,8 @@ void AnswerBoxMethod::markAnswer()
         const Digit &d = digits_[i];
         Control &c = ctl(d.box);
         if (marks_[i] == Mark::Open) {
-            const bool right = d.value < 0 ? c.caption.empty() : c.caption == numberText(d.value);
+            const bool right = d.value == kLeading ? c.caption.empty() || c.caption == "0"
+                                                   : c.caption == numberText(d.value);
             marks_[i] = right ? Mark::Right : Mark::Wrong;
             c.enabled = !right;
             c.backColor = right ? kRightBox : kWrongBox;

@@ -6,6 +6,7 @@
 // starts it afresh. The question is complete when every digit is right.
 #include "written/WrittenFrame.h"
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -25,14 +26,19 @@ protected:
     // `hint` says what the small boxes are for.
     AnswerBoxMethod(App &app, Value PupilProgress::*best, std::string menu, std::string hint);
 
-    // One answer digit: its box, the right digit (or -1 where the answer has no digit, so the
-    // box must stay empty) and whether the box must be filled before the answer is marked.
+    // One answer digit: its box, the right digit and whether the box must be filled before the
+    // answer is marked (hundreds, tens and units; a thousands box left empty is a wrong digit).
+    // A place in front of the answer's first digit (kLeading) is right left empty or with a 0,
+    // as a child may write 031 or 31.
+    static constexpr int kLeading = -1;
     struct Digit
     {
         std::string box;
         int value = 0;
         bool required = true;
     };
+    // The digits of `answer` in `boxes` (units first), with kLeading above its first digit.
+    static std::vector<Digit> answerDigits(int answer, std::initializer_list<const char *> boxes);
 
     // An answer digit box filling its square, and a small box for the pupil's own notes.
     void digitBox(std::string name, std::string spoken, int column, int row);

@@ -21,16 +21,17 @@ Sub33b::Sub33b(App &app)
 
     // A top digit that gives is rewritten above its column; the "1" that comes in goes just in
     // front of the digit that receives it,
-    constexpr int size = 560, small = 300;
+    constexpr int size = 560, small = 380;
     for (const auto &[name, column] :
          {std::pair{"Text16", kHundredsColumn}, std::pair{"Text15", kTensColumn}})
         noteBox(name, std::string("new ") + (column == kHundredsColumn ? "hundreds" : "tens"),
                 cellX(column) + (kCell - size) / 2, cellY(kExchangeRow) + kCell - size - 60, size);
-    // squeezed between two top digits, on the line between their squares.
-    noteBox("Text14", "ten in front of the tens", cellX(kTensColumn) - small / 2 + 40,
-            cellY(kTopRow) + (kCell - small) / 2, small);
-    noteBox("text18", "ten in front of the units", cellX(kUnitsColumn) - small / 2 + 40,
-            cellY(kTopRow) + (kCell - small) / 2, small);
+    // standing on the line between two top digits, high in the square like a small written 1,
+    // and big enough to click and read.
+    noteBox("Text14", "ten in front of the tens", cellX(kTensColumn) - small / 2,
+            cellY(kTopRow) + 70, small);
+    noteBox("text18", "ten in front of the units", cellX(kUnitsColumn) - small / 2,
+            cellY(kTopRow) + 70, small);
 
     rules(kAnswerRow, kSignColumn, kUnitsColumn, false);
     digitBox("Text13", "hundreds", kHundredsColumn, kAnswerRow);
@@ -47,12 +48,15 @@ void Sub33b::newQuestion()
     const int bottomHundreds = drawDigit("text10", topHundreds);
     const int bottomTens = drawDigit("text4", 10);
     const int bottomUnits = drawDigit("text2", 10);
+    // The bottom number is written as a number is written: 81, not 081.
+    if (bottomHundreds == 0) {
+        caption("text10").clear();
+        if (bottomTens == 0)
+            caption("text4").clear();
+    }
     const int difference = (topHundreds - bottomHundreds) * 100 + (topTens - bottomTens) * 10 +
                            (topUnits - bottomUnits);
-    // Every column is answered, with 0 where the difference has no digit there.
-    beginAnswer({{"Text11", difference % 10},
-                 {"Text12", difference / 10 % 10},
-                 {"Text13", difference / 100}});
+    beginAnswer(answerDigits(difference, {"Text11", "Text12", "Text13"}));
 }
 
 } // namespace nb

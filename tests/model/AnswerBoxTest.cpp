@@ -6,6 +6,8 @@
 #include "written/AnswerBoxMethod.h"
 
 #include <algorithm>
+#include <array>
+#include <tuple>
 
 namespace nb::test {
 namespace {
@@ -73,16 +75,16 @@ TEST(AnswerBox, MarkingRules)
     queueDraws(d, columnDraws({123, 204, 311})); // 638
     d.click("Command11");
     EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text11Write the answer, then CHECK.");
-    // Enter after the units alone marks nothing; a second digit does not fit in a box.
+    // Enter after the units alone marks nothing; a second digit replaces the first.
     d.typeEnter("Text11", "8");
-    d.type("Text12", "34");
+    d.type("Text12", "43");
     d.enter("Text12");
     EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text13Fill in H, T and U first.");
     EXPECT_EQ(d.caption("time") + d.text("Text12"), "03");
-    // A 0 in the thousands of a three-digit answer is wrong, as are wrong hundreds: four
+    // A 1 in the thousands of a three-digit answer is wrong, as are wrong hundreds: four
     // seconds; marking again without a change costs nothing more.
     d.type("Text13", "5");
-    d.type("Text14", "0");
+    d.type("Text14", "1");
     d.click("Command13");
     d.click("Command13");
     d.enter("Text13");
@@ -91,6 +93,7 @@ TEST(AnswerBox, MarkingRules)
     EXPECT_EQ(d.backColor("Text12"), kRight);
     d.key("Text14", 8);
     EXPECT_EQ(d.backColor("Text14"), colors::yellow) << "a changed red box is open again";
+    d.setText("Text14", "");
     d.type("Text13", "6");
     d.platform.queueDraw(0.0);
     d.typeEnter("Text15", "1");
@@ -107,16 +110,189 @@ TEST(AnswerBox, MarkingRules)
     d.typeEnter("Text14", "2");
     EXPECT_TRUE(d.visible("Command10"));
 
-    // Subtraction answers every column: 512 - 481 needs 0 hundreds.
+    // Subtraction: 512 - 481 = 31 needs its tens and units before it is marked.
     d.click("Command22");
     d.open("sub33b");
     queueDraws(d, columnDraws({512, 481}));
     d.click("Command11");
-    d.type("Text11", "1");
+    d.typeEnter("Text11", "1");
+    EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text12Fill in H, T and U first.");
     d.typeEnter("Text12", "3");
-    EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text13Fill in H, T and U first.");
-    d.typeEnter("Text13", "0");
     EXPECT_EQ(d.caption("time") + d.front().focusName(), "0Command10");
+}
+
+// The places in front of an answer's first digit are right left empty or with a 0 (31 or 031,
+// 638 or 0638); any other digit there is wrong, and a 0 inside or at the end of the answer must
+// be written.
+TEST(AnswerBox, PlacesInFrontOfTheAnswer)
+{
+    struct Case
+    {
+        const char *screen;
+        std::vector<int> numbers;
+        // Units, tens, hundreds (, thousands): "" leaves the box empty.
+        std::vector<const char *> entries;
+        const char *outcome; // "done", "missing" or the boxes marked wrong
+    };
+    const Case cases[] = {
+        {"ADD333b", {123, 204, 311}, {"8", "3", "6", ""}, "done"},
+        {"ADD333b", {123, 204, 311}, {"8", "3", "6", "0"}, "done"},
+        {"ADD333b", {123, 204, 311}, {"8", "3", "6", "1"}, "Text14"},
+        {"ADD333b", {999, 999, 999}, {"7", "9", "9", ""}, "Text14"},
+        {"ADD333b", {999, 999, 999}, {"7", "9", "9", "0"}, "Text14"},
+        {"ADD333b", {400, 300, 300}, {"0", "0", "0", "1"}, "done"},
+        {"ADD333b", {400, 300, 300}, {"0", "", "0", "1"}, "missing"},
+        {"sub33b", {512, 481}, {"1", "3", ""}, "done"},
+        {"sub33b", {512, 481}, {"1", "3", "0"}, "done"},
+        {"sub33b", {512, 481}, {"1", "3", "1"}, "Text13"},
+        {"sub33b", {305, 298}, {"7", "", ""}, "done"},
+        {"sub33b", {305, 298}, {"7", "0", "0"}, "done"},
+        {"sub33b", {305, 298}, {"7", "", "0"}, "done"},
+        {"sub33b", {305, 298}, {"7", "1", ""}, "Text12"},
+        {"sub33b", {510, 480}, {"", "3", ""}, "missing"},
+        {"sub33b", {510, 480}, {"0", "3", ""}, "done"},
+        {"sub33b", {700, 398}, {"2", "", "3"}, "missing"},
+        {"sub33b", {700, 398}, {"2", "0", "3"}, "done"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(std::string(c.screen) + " " + c.entries[0] + c.entries[1] + c.entries[2]);
+        Driver d;
+        d.open(c.screen);
+        queueDraws(d, columnDraws(c.numbers));
+        d.click("Command11");
+        d.platform.queueDraw(0.0); // the praise
+        std::string wrong;
+        for (std::size_t i = 0; i < c.entries.size(); ++i)
+            d.type("Text1" + std::to_string(i + 1), c.entries[i]);
+        d.click("Command13");
+        for (std::size_t i = 0; i < c.entries.size(); ++i)
+            if (d.backColor("Text1" + std::to_string(i + 1)) == kWrong)
+                wrong += "Text1" + std::to_string(i + 1);
+        const std::string outcome = d.visible("Command10")                               ? "done"
+                                    : d.caption("text17") == "Fill in H, T and U first." ? "missing"
+                                                                                         : wrong;
+        EXPECT_EQ(outcome, c.outcome);
+    }
+}
+
+// The small boxes for carries and exchanges are big enough to click and read, and none covers the
+// ink of a digit of the sum (the middle of its square).
+TEST(AnswerBox, NoteBoxesAreReadableAndLeaveTheDigitsClear)
+{
+    struct Page
+    {
+        const char *screen;
+        std::vector<const char *> notes, digits;
+    };
+    const Page pages[] = {
+        {"ADD333b",
+         {"Text15", "Text16"},
+         {"text1", "text3", "Text5", "text10", "text4", "text2", "text20", "text19", "text18"}},
+        {"sub33b",
+         {"Text14", "Text15", "Text16", "text18"},
+         {"Label1", "Label2", "Text5", "text10", "text4", "text2"}},
+    };
+    for (const Page &p : pages) {
+        Driver d;
+        d.open(p.screen);
+        for (const char *note : p.notes) {
+            const Control &n = d.front().ctl(note);
+            SCOPED_TRACE(std::string(p.screen) + " " + note);
+            EXPECT_GE(std::min(n.width, n.height), 360);
+            for (const char *digit : p.digits) {
+                const Control &g = d.front().ctl(digit);
+                const int inkLeft = g.left + 280, inkRight = g.left + g.width - 280;
+                const int inkTop = g.top + 230, inkBottom = g.top + g.height - 230;
+                EXPECT_FALSE(n.left < inkRight && inkLeft < n.left + n.width && n.top < inkBottom &&
+                             inkTop < n.top + n.height)
+                    << "covers " << digit;
+            }
+        }
+    }
+}
+
+// Each digit written moves the cursor to the next empty box to the left, up to the hundreds, so a
+// pupil can write the answer from the units upwards with the keyboard alone and press Enter.
+TEST(AnswerBox, TheCursorMovesLeftAsDigitsAreWritten)
+{
+    struct Case
+    {
+        const char *screen;
+        std::vector<int> numbers;
+        // Box and digit typed, then the box the cursor is in.
+        std::vector<std::array<const char *, 3>> keys;
+    };
+    const Case cases[] = {
+        {"ADD333b",
+         {123, 204, 311},
+         {{"Text11", "8", "Text12"}, {"Text12", "3", "Text13"}, {"Text13", "6", "Text13"}}},
+        {"ADD333b",
+         {123, 204, 311},
+         {{"Text13", "6", "Text13"}, {"Text11", "8", "Text12"}, {"Text12", "3", "Text12"}}},
+        {"ADD333b", {999, 999, 999}, {{"Text14", "2", "Text14"}, {"Text12", "9", "Text13"}}},
+        {"sub33b", {512, 481}, {{"Text11", "1", "Text12"}, {"Text12", "3", "Text13"}}},
+        {"sub33b", {512, 481}, {{"Text16", "4", "Text16"}, {"Text11", "1", "Text12"}}},
+    };
+    for (const Case &c : cases) {
+        Driver d;
+        d.open(c.screen);
+        queueDraws(d, columnDraws(c.numbers));
+        d.click("Command11");
+        EXPECT_EQ(d.front().focusName(), "Text11");
+        for (const auto &[box, digit, then] : c.keys) {
+            d.front().setFocus(box);
+            d.type(box, digit);
+            EXPECT_EQ(d.front().focusName(), then) << c.screen << " " << box << digit;
+        }
+    }
+    // A digit typed into a full box replaces the one there; Backspace still empties it.
+    {
+        Driver d;
+        d.open("sub33b");
+        queueDraws(d, columnDraws({512, 481}));
+        d.click("Command11");
+        d.type("Text12", "5");
+        d.type("Text12", "3");
+        EXPECT_EQ(d.text("Text12"), "3");
+        d.key("Text12", 8);
+        EXPECT_EQ(d.text("Text12"), "");
+    }
+    // Enter where the cursor stops marks the answer, also in an empty box in front of it.
+    for (const auto &[screen, numbers, digits] :
+         {std::tuple{"ADD333b", std::vector{123, 204, 311}, "836"},
+          std::tuple{"sub33b", std::vector{512, 481}, "13"}}) {
+        Driver d;
+        d.open(screen);
+        queueDraws(d, columnDraws(numbers));
+        d.click("Command11");
+        d.platform.queueDraw(0.0);
+        for (const char *digit = digits; *digit; ++digit)
+            d.type(std::string(d.front().focusName()), std::string(1, *digit));
+        d.enter(std::string(d.front().focusName()));
+        EXPECT_EQ(d.caption("text17") + d.front().focusName(), "That's correct !Command10")
+            << screen;
+    }
+}
+
+// The numbers of a sum are written as numbers are written: no 0 in front of the bottom number of a
+// subtraction, and every 0 inside or at the end of it kept.
+TEST(AnswerBox, TheBottomNumberHasNoZerosInFront)
+{
+    struct Case
+    {
+        int top, bottom;
+        const char *shown; // hundreds|tens|units
+    };
+    for (const Case &c : {Case{512, 81, "|8|1"}, Case{512, 7, "||7"}, Case{512, 100, "1|0|0"},
+                          Case{905, 30, "|3|0"}, Case{905, 804, "8|0|4"}}) {
+        Driver d;
+        d.open("sub33b");
+        queueDraws(d, columnDraws({c.top, c.bottom}));
+        d.click("Command11");
+        EXPECT_EQ(d.caption("text10") + "|" + d.caption("text4") + "|" + d.caption("text2"),
+                  c.shown)
+            << c.top << " - " << c.bottom;
+    }
 }
 
 } // namespace

@@ -45,6 +45,24 @@ struct Game
     Driver d;
 };
 
+TEST(FourInARow, TheAdditionMenuOpensItAndExitGoesBack)
+{
+    Driver d;
+    d.toMainMenu();
+    d.newPupil();
+    d.click("Command5");
+    EXPECT_EQ(d.caption("fourinrow"), "Addition 4-in a row");
+    d.click("fourinrow");
+    ASSERT_EQ(d.frontName(), "fourinarow");
+    EXPECT_EQ(d.front().title(), "Four in a row");
+    EXPECT_FALSE(d.isOpen("addmenu"));
+    EXPECT_EQ(d.front().focusName(), "Command1") << "Enter starts the game, never leaves it";
+    d.click("Command1");
+    d.click("exit");
+    EXPECT_EQ(d.frontName(), "addmenu");
+    EXPECT_FALSE(d.isOpen("fourinarow"));
+}
+
 TEST(FourInARow, StoredLevelIsOfferedAndAWinMovesUpKeepingTheHighestUpToNine)
 {
     const struct Case

@@ -118,6 +118,13 @@ TEST(LatticeMultiplication, WorkedExamplesOnTheSmallestLattice)
             }
             p.enter(e.value);
             EXPECT_FALSE(p.d.enabled(e.name, e.index));
+            // Answered, a digit box turns red; a triangle or sum box keeps its yellow (the
+            // completing one aside).
+            const bool completing = e.name == "answerbox" && e.index == c.completing;
+            if (!completing) {
+                EXPECT_EQ(p.d.backColor(e.name, e.index),
+                          e.name == "question" ? colors::red : colors::yellow);
+            }
         }
         EXPECT_EQ(p.d.backColor("answerbox", c.completing), kLightCyan);
         EXPECT_TRUE(p.d.reachable("Command10"));
@@ -161,6 +168,13 @@ TEST(LatticeMultiplication, EachLatticeHasItsBoxesAndStartClearsThem)
         EXPECT_EQ(boxes["question"], c.digits);
         EXPECT_EQ(boxes["answers"], c.triangles);
         EXPECT_EQ(boxes["answerbox"], c.sums);
+        // The lattice's outline, trays and band edges, and its fixed texts, by name.
+        for (const char *name : {"Shape1", "Shape3", "Shape4", "Line1", "Line2", "Label1"})
+            EXPECT_NE(screen.find(name, -1), nullptr) << name;
+        for (int i : {0, 1, 2})
+            EXPECT_NE(screen.find("Questions", i), nullptr) << i;
+        EXPECT_EQ(d.caption("Questions", 0), "Question");
+        EXPECT_EQ(d.caption("Questions", 1), "Answer");
         for (int i : c.hidden)
             EXPECT_FALSE(d.visible("answerbox", i));
         // START empties every box and the question line before the first question.

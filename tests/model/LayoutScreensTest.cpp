@@ -2,6 +2,7 @@
 // input guard, penalties, disabled boxes, the five-question run with its best-time check, NEXT
 // and EXIT.
 #include "LayoutScreensTestSupport.h"
+#include "activity/AnswerBoxFilter.h"
 #include "layouts/LayoutFrame.h"
 #include "layouts/LayoutStep.h"
 
@@ -83,12 +84,15 @@ TEST(LayoutScreens, InputGuardClearsUntidyTextWithoutPenalty)
     };
     const Case cases[] = {
         {"07\r", "", 0},  // cleared at the Enter, nothing checked
-        {"075", "5", 0},  // cleared at the next key, which goes into the empty box
+        {"075", "", 0},   // cleared at the next key, which is lost with it
+        {"0755", "5", 0}, // ... so only the key after that goes in
         {"12a\r", "", 0}, // letters after digits
+        {"a3", "", 0},    // a letter alone
+        {"-5\r", "", 0},  // a sign alone reads as no number
         {"\r", "", 0},    // an empty box submits nothing
+        {"3", "3", 0},    // an empty box takes the key
         {"0", "0", 0},    // a lone 0 stays
         {"0\r", "", 2},   // ... and is checked: wrong for a first box, which is never 0
-        {"-5\r", "", 2},  // a negative number is checked, and is wrong
     };
     for (const LayoutScreen &s : kLayoutScreens) {
         for (const Case &c : cases) {
@@ -204,6 +208,39 @@ TEST(LayoutScreens, AFirstRunIsStoredWithoutPraiseAndNextDoesNothingAfterTheFift
     p.d.app.click(p.d.front(), "Command10");
     EXPECT_EQ(p.d.caption("questionbox"), question);
     EXPECT_EQ(p.d.caption("score"), "0");
+}
+
+TEST(LayoutScreens, KeysThatFindNoBoxGoToTheWaitingOne)
+{
+    for (const LayoutScreen &s : kLayoutScreens) {
+        SCOPED_TRACE(s.name);
+        LayoutPupil p(s.name);
+        // Before START there is no box to type into: keys change nothing.
+        p.d.open(s.name);
+        p.d.screenKeys("5\r");
+        EXPECT_EQ(p.d.caption("time"), "");
+        p.queue(numberOf(std::vector<int>(s.a.size(), 4)),
+                numberOf(std::vector<int>(s.b.size(), 3)));
+        p.d.click("Command1");
+        const std::string first = p.focusId();
+        // The focus strayed (say onto EXIT): the keys still land in the waiting box, the guard
+        // included, and Enter checks it there.
+        p.d.front().setFocus("Command13");
+        p.d.screenKeys("07");
+        EXPECT_EQ(p.focusId(), first);
+        EXPECT_EQ(p.d.caption(p.focusName(), p.focusIndex()), "07");
+        p.d.screenKey(kEnterKey);
+        EXPECT_EQ(p.d.caption(p.focusName(), p.focusIndex()), "");
+        p.d.screenKeys(numberText(rightValue(p.d)) + "\r");
+        EXPECT_EQ(p.d.platform.beeps, 1);
+        EXPECT_NE(p.focusId(), first);
+        EXPECT_EQ(p.d.caption("time"), "0");
+        // Between questions NEXT keeps the focus and stray keys do nothing.
+        answerQuestion(p);
+        p.d.screenKeys("12\r");
+        EXPECT_EQ(p.focusName(), "Command10");
+        EXPECT_EQ(p.d.caption("score"), "1");
+    }
 }
 
 TEST(LayoutScreens, TheClockRunsOnlyDuringARunAndExitLeavesAtAnyMoment)

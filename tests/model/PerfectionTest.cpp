@@ -125,14 +125,18 @@ TEST(PerfectionScreen, APartlyFilledSquareIsMarkedWithBlanksCountedWrong)
     EXPECT_EQ(d.front().focusIndex(), blanks[5] + 1);
 
     d.platform.queueYes();
-    d.platform.queueNo();
     d.click("mark");
-    EXPECT_EQ(d.platform.lastMessage(), "You got 37% right. Do you want another go ?");
+    EXPECT_EQ(d.caption("percent"), "37%");
+    EXPECT_EQ(d.caption("status"),
+              "You got 3 out of 8 right. The red squares are wrong. Press START to try again.");
     EXPECT_EQ(d.progress().PerfectionBest.number(), 3);
+    d.click("exit");
     EXPECT_EQ(d.frontName(), "mulmenu");
 }
 
-TEST(PerfectionScreen, AnotherGoAfterAMistakeStartsAFreshSquareOnTheSameLevel)
+// A square with a mistake stays marked in view, with no box over it, until START begins a fresh
+// square on the same level; Enter then presses START, never EXIT.
+TEST(PerfectionScreen, AMarkedSquareStaysInViewUntilStart)
 {
     Driver d;
     d.open("perfection");
@@ -140,9 +144,23 @@ TEST(PerfectionScreen, AnotherGoAfterAMistakeStartsAFreshSquareOnTheSameLevel)
     const auto blanks = screen(d).square().blanks();
     for (std::size_t k = 0; k < blanks.size(); ++k)
         d.type("answer", k == 2 ? "1" : product(blanks[k]), blanks[k] + 1);
-    d.platform.queueYes();
     d.click("mark");
-    EXPECT_EQ(d.platform.lastMessage(), "You got 87% right. Do you want another go ?");
+    EXPECT_TRUE(d.platform.shown.empty());
+    EXPECT_EQ(d.caption("percent"), "87%");
+    EXPECT_FALSE(screen(d).filling());
+    // The wrong square keeps a colour of its own; every square keeps its entry.
+    const std::uint32_t wrong = d.backColor("answer", blanks[2] + 1);
+    for (std::size_t k = 0; k < blanks.size(); ++k) {
+        const std::uint32_t back = d.backColor("answer", blanks[k] + 1);
+        EXPECT_TRUE(back != colors::white && (k == 2 || back != wrong)) << k;
+        EXPECT_EQ(d.text("answer", blanks[k] + 1), k == 2 ? "1" : product(blanks[k]));
+        EXPECT_FALSE(d.enabled("answer", blanks[k] + 1));
+    }
+    EXPECT_TRUE(d.enabled("start"));
+    EXPECT_EQ(d.front().focusName(), "start");
+    EXPECT_FALSE(d.enabled("mark"));
+
+    d.click("start");
     EXPECT_EQ(d.caption("level"), "1");
     EXPECT_TRUE(screen(d).filling());
     for (int b : screen(d).square().blanks()) {
@@ -167,9 +185,8 @@ TEST(PerfectionScreen, OnlyDigitsAndBackspaceGoIntoTheBoxes)
     EXPECT_EQ(d.text("answer", box), "134");
     d.setText("answer", "pasted", box); // a paste is simply marked wrong
     d.platform.queueYes();
-    d.platform.queueNo();
     d.click("mark");
-    EXPECT_EQ(d.platform.lastMessage(), "You got 0% right. Do you want another go ?");
+    EXPECT_EQ(d.caption("percent"), "0%");
 }
 
 } // namespace

@@ -1,6 +1,9 @@
-// Drives every registered screen with a long stream of random clicks, keys, pastes, ticks, mouse
-// presses and box replies. Nothing may crash, hang or trip the sanitizers, whatever a child does.
+// Drives every registered screen with long streams of random clicks, keys, pastes, ticks, mouse
+// presses and box replies, from several seeds, with the timers of every open screen running as
+// they do in the window. Nothing may crash, hang or trip the sanitizers, whatever a child does,
+// and the progress left at the end must save as a record that loads back the same.
 #include "core/Random.h"
+#include "shell/record/RecordFile.h"
 #include "support/Driver.h"
 
 #include <gtest/gtest.h>
@@ -13,18 +16,70 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(RandomEvents, EveryScreenSurvivesAHundredThousandRandomEvents)
+// One round of every running timer of every open screen, as the window's timers fire; a screen
+// closed by an earlier tick gets no more.
+void tickAllTimers(Driver &d)
 {
-    const fs::path folder = fs::temp_directory_path() / "numbrook-random-events";
+    std::vector<std::pair<Screen *, std::string>> timers;
+    for (Screen *s : d.app.openScreens())
+        for (const Control &c : s->controls())
+            if (c.kind == ControlKind::Timer)
+                timers.emplace_back(s, c.name);
+    for (const auto &[screen, name] : timers) {
+        const auto open = d.app.openScreens();
+        if (std::find(open.begin(), open.end(), screen) == open.end())
+            continue;
+        const auto &controls = screen->controls();
+        const auto c = std::find_if(controls.begin(), controls.end(),
+                                    [&](const Control &x) { return x.name == name; });
+        if (c != controls.end() && c->timerOn && c->interval > 0)
+            d.app.timerTick(*screen, name);
+    }
+}
+
+// Leaves through the save screen as a pupil would; the file written must load back as the
+// progress that was saved.
+void saveAndLoadBack(Driver &d)
+{
+    d.app.close("Filesave"); // opened afresh, so a loaded pupil's record is written back
+    const PupilProgress &p = d.progress();
+    const std::string saved = record::encode(p);
+    d.app.show("Filesave");
+    fs::path file;
+    if (p.LoadedFileName.isText() && !p.LoadedFileName.asText().empty()) {
+        // Written back at once, to the folder the record came from.
+        file = fs::path(p.RecordFolder.isText() ? p.RecordFolder.asText() : std::string()) /
+               p.LoadedFileName.asText();
+    } else {
+        ASSERT_EQ(d.frontName(), "Filesave");
+        file = fs::path(d.caption("lbldirname")) / "final.DAT";
+        std::error_code ec;
+        fs::remove(file, ec);
+        d.setText("txtfilename", "final");
+        d.click("cmdOK");
+    }
+    ASSERT_TRUE(d.app.ended()) << d.platform.lastMessage();
+    const record::ReadOutcome read = record::readRecordFile(file);
+    ASSERT_TRUE(read.values.has_value()) << file << ": " << read.problem;
+    EXPECT_EQ(record::encode(*read.values), saved);
+}
+
+class RandomEvents : public ::testing::TestWithParam<std::uint64_t>
+{};
+
+TEST_P(RandomEvents, EveryScreenSurvivesRandomEventsAndTheRecordStillLoads)
+{
+    const fs::path folder =
+        fs::temp_directory_path() / ("numbrook-random-events-" + std::to_string(GetParam()));
     fs::remove_all(folder);
     fs::create_directories(folder);
-    UniformRandom rnd(20261122);
+    UniformRandom rnd(GetParam());
     const auto pick = [&rnd](std::size_t n) { return int(rnd.next() * double(n)); };
     const int keys[] = {'0', '1', '2', '3', '4', '5', '6', '7', '8',  '9',    '-', '.',
                         ' ', 'a', 'Z', 13,  13,  13,  8,   27,  0xE9, 0x4E2D, '/'};
     std::unique_ptr<Driver> d;
     int runs = 0;
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < 25000; ++i) {
         if (!d || d->app.ended()) {
             d.reset();
             d = std::make_unique<Driver>();
@@ -33,6 +88,10 @@ TEST(RandomEvents, EveryScreenSurvivesAHundredThousandRandomEvents)
             d->platform.setDrives({folder.string()});
             ++runs;
         }
+        if (pick(4) == 0)
+            tickAllTimers(*d);
+        if (d->app.ended())
+            continue;
         if (!d->app.front() || pick(500) == 0) {
             d->app.show(d->registry.entries()[pick(d->registry.entries().size())].name);
             continue;
@@ -82,9 +141,20 @@ TEST(RandomEvents, EveryScreenSurvivesAHundredThousandRandomEvents)
             d->platform.clearShown();
     }
     EXPECT_GT(runs, 1) << "the program was ended at least once";
+    if (d->app.ended()) {
+        d = std::make_unique<Driver>();
+        d->platform.setDocuments(folder.string());
+        d->platform.setDrives({folder.string()});
+        d->toMainMenu();
+        d->newPupil("Last Pupil");
+    }
+    saveAndLoadBack(*d);
     d.reset();
     fs::remove_all(folder);
 }
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomEvents,
+                         ::testing::Values(20261122u, 1u, 424242u, 987654321u));
 
 } // namespace
 } // namespace nb::test

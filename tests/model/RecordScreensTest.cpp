@@ -1,10 +1,12 @@
 // The save and load screens as a pupil or teacher uses them, in a folder of their own.
 #include "activity/BestTimeCheck.h"
+#include "model/RecordFileSupport.h"
 #include "shell/record/RecordCodec.h"
 #include "support/Driver.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -15,35 +17,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string slurp(const fs::path &p)
-{
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
-}
-
-void spit(const fs::path &p, const std::string &bytes)
-{
-    std::ofstream(p, std::ios::binary) << bytes;
-}
-
-std::vector<std::string> entries(const fs::path &folder)
-{
-    std::vector<std::string> out;
-    for (const auto &e : fs::directory_iterator(folder))
-        out.push_back(e.path().filename().string());
-    std::sort(out.begin(), out.end());
-    return out;
-}
-
 class RecordScreens : public ::testing::Test
 {
 protected:
     void SetUp() override
     {
-        root = fs::temp_directory_path() /
-               ("numbrook-record-" + std::to_string(::getpid()) + "-" +
-                ::testing::UnitTest::GetInstance()->current_test_info()->name());
-        fs::remove_all(root);
+        root = emptyTestFolder();
         fs::create_directories(root / "docs");
         d = fresh();
     }
@@ -223,8 +202,7 @@ TEST_F(RecordScreens, ALoadThatFailsChangesNothingAndSaysWhy)
     spit(records() / "ann.DAT", record);
     spit(records() / "short.DAT", record.substr(0, 10));
     spit(records() / "empty.DAT", "");
-    spit(records() / "huge.DAT", "");
-    fs::resize_file(records() / "huge.DAT", record::kMaxRecordBytes + 1);
+    spit(records() / "junk.DAT", std::string(record::kMaxRecordBytes + 1, '\xFF'));
     if (::geteuid() == 0) { // permissions do not stop root; reading this file fails for anyone
         fs::create_symlink("/proc/self/mem", records() / "locked.DAT");
     } else {
@@ -250,7 +228,7 @@ TEST_F(RecordScreens, ALoadThatFailsChangesNothingAndSaysWhy)
         {"short.DAT", "it is not a pupil record (it ends part-way through value 3 of 77)."},
         {"empty.DAT", "the file is empty."},
         {"folder.DAT", "it is a folder, not a record file."},
-        {"huge.DAT", "it is far too big to be a pupil record."},
+        {"junk.DAT", "it is not a pupil record (value 1 of 77 is of an unknown type (65535))."},
         {"locked.DAT", "it cannot be read ("},
         {"gone.DAT", "there is no such file in this folder."},
     };
@@ -302,6 +280,91 @@ TEST_F(RecordScreens, AFailedSaveKeepsEverythingAndCanBeRetriedElsewhere)
     d->click("cmdOK");
     EXPECT_TRUE(d->app.ended());
     EXPECT_EQ(slurp(root / "ann.DAT"), record::encode(d->progress()));
+}
+
+// What a pupil sees when the disk fails, another program takes the name at that moment, or a
+// teacher has locked the record: a message, progress kept, and a way to save under another name.
+TEST_F(RecordScreens, SaveFailuresSayWhatHappenedAndOfferAnotherTry)
+{
+    const std::string theirs = "another pupil's record";
+    d->newPupil();
+    d->progress().MulBest = Value::real(19);
+    exitAndSave();
+    {
+        FaultyFileCalls calls;
+        calls.failStep = FaultyFileCalls::Step::Write;
+        calls.failErr = ENOSPC;
+        const record::UseFileCalls use(calls);
+        d->type("txtfilename", "ann");
+        d->click("cmdOK");
+    }
+    EXPECT_EQ(d->platform.lastMessage(),
+              "Your record could not be saved as ann.DAT: the disk is full. Your progress is "
+              "still here: choose another folder and press OK to save again.");
+    EXPECT_EQ(d->caption("txtfilename"), "ann");
+    EXPECT_TRUE(entries(records()).empty());
+    {
+        FaultyFileCalls calls;
+        calls.clashWith = theirs; // saved by another machine after the name was checked
+        const record::UseFileCalls use(calls);
+        d->click("cmdOK");
+    }
+    EXPECT_EQ(d->platform.lastMessage(),
+              "There is already a file with this name. Use a different filename.");
+    EXPECT_EQ(d->caption("txtfilename"), "");
+    EXPECT_FALSE(d->app.ended());
+    EXPECT_EQ(entries(records()), std::vector<std::string>{"ann.DAT"});
+    EXPECT_EQ(slurp(records() / "ann.DAT"), theirs);
+    d->type("txtfilename", "ann2");
+    d->click("cmdOK");
+    ASSERT_TRUE(d->app.ended());
+    const std::string saved = record::encode(d->progress());
+    EXPECT_EQ(slurp(records() / "ann2.DAT"), saved);
+
+    // The teacher locks the record; the pupil loads it and leaves with a new best time.
+    fs::permissions(records() / "ann2.DAT", fs::perms(0444));
+    d = fresh();
+    d->click("Command3");
+    d->setText("txtfilename", "ann2.DAT");
+    d->click("cmdOK");
+    d->progress().MulBest = Value::real(17);
+    d->platform.clearShown();
+    exitAndSave();
+    EXPECT_EQ(d->platform.lastMessage(),
+              "Your record could not be saved as ann2.DAT: that file is marked read-only, so it "
+              "was left as it is. Your progress is still here: type a new name and press OK to "
+              "save it.");
+    EXPECT_FALSE(d->app.ended());
+    EXPECT_EQ(d->frontName(), "Filesave");
+    EXPECT_EQ(d->caption("txtfilename"), "");
+    EXPECT_EQ(slurp(records() / "ann2.DAT"), saved);
+    d->type("txtfilename", "ann3");
+    d->click("cmdOK");
+    EXPECT_TRUE(d->app.ended());
+    EXPECT_EQ(d->progress().MulBest.number(), 17);
+    EXPECT_EQ(slurp(records() / "ann3.DAT"), record::encode(d->progress()));
+    EXPECT_EQ(slurp(records() / "ann2.DAT"), saved);
+}
+
+// A save cut short leaves a temporary file; the next LOAD or SAVE in that folder clears it once
+// its program has gone.
+TEST_F(RecordScreens, OpeningAFolderClearsTemporaryFilesOfSavesCutShort)
+{
+    fs::create_directories(records());
+    for (const std::string screen : {"Filesystem", "Filesave"}) {
+        SCOPED_TRACE(screen);
+        spit(records() / ".numbrook-4001-0.tmp", "half a record");
+        spit(records() / ".numbrook-4002-0.tmp", "half a record");
+        fs::last_write_time(records() / ".numbrook-4001-0.tmp",
+                            fs::file_time_type::clock::now() - std::chrono::minutes(5));
+        FaultyFileCalls calls;
+        const record::UseFileCalls use(calls);
+        d = fresh();
+        d->open(screen);
+        EXPECT_EQ(entries(records()), std::vector<std::string>{".numbrook-4002-0.tmp"})
+            << "a recent one may still be being written";
+        fs::remove(records() / ".numbrook-4002-0.tmp");
+    }
 }
 
 TEST_F(RecordScreens, DrivesFoldersAndTheFirstFolder)

@@ -1,4 +1,5 @@
 // The start-up path, the main menu and the topic menus, as a pupil uses them.
+#include "shell/Leaving.h"
 #include "support/Driver.h"
 
 #include <gtest/gtest.h>
@@ -33,7 +34,7 @@ TEST_F(Shell, CoverHandsOverAndExitWithNoPupilEndsAtOnce)
 TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
 {
     // Every saved field holds a value of its own before NEW; exactly the listed ones become the
-    // whole number 0 (DartsBest a copy of that 0) and every other one is kept as it was.
+    // whole number 0 (DartsBest a copy of that 0) and every other one keeps its value.
     const std::set<std::string_view> reset = {
         "MakeTenBest",    "MakeAnyBest", "MakeTenSubBest", "MakeAnySubBest", "ColumnSubBest",
         "MulBest",        "Mul21Best",   "Mul31Best",      "Mul22Best",      "Mul32Best",
@@ -77,12 +78,27 @@ TEST_F(Shell, NewAsksForTheNameAndResetsOnlyItsFields)
     EXPECT_EQ(d.front().focusName(), "Command5") << "not EXIT";
 }
 
+// Only No ends without saving: a box closed or escaped goes back to the menu with nothing lost.
 TEST_F(Shell, ExitWithAPupilAsksToSaveAndNoEnds)
 {
     d.newPupil();
+    d.progress().MulBest = Value::real(21);
+    for (int i = 0; i < 2; ++i) {
+        d.platform.queueCancel();
+        d.click("Command1");
+        EXPECT_EQ(d.platform.lastMessage(), "Do you want to save?");
+        EXPECT_FALSE(d.app.ended());
+        EXPECT_EQ(d.frontName(), "mainmenu");
+        EXPECT_EQ(d.progress().MulBest.number(), 21);
+        EXPECT_TRUE(d.progress().Unsaved.equalsNumber(1));
+    }
+    d.platform.queueCancel(); // closing the window asks the same
+    leaveProgram(d.app);
+    EXPECT_FALSE(d.app.ended());
+    EXPECT_EQ(d.frontName(), "mainmenu");
+
     d.platform.queueNo();
     d.click("Command1");
-    EXPECT_EQ(d.platform.lastMessage(), "Do you want to save?");
     EXPECT_TRUE(d.app.ended());
     EXPECT_EQ(d.progress().MessageReply.whole(), kNo);
 }

@@ -48,7 +48,8 @@ TEST(TwoPlayerFourInARow, NamesMustBeShorterThanFifteenLetters)
     EXPECT_EQ(d.caption("p1"), elodie);
     EXPECT_FALSE(d.visible("player1"));
     EXPECT_EQ(d.caption("text1"), "Player 2, please enter your name.");
-    d.typeEnter("player2", "Benjamin Smith"); // 14 letters
+    // 14 letters: blanks typed around a name are not part of it.
+    d.typeEnter("player2", "  Benjamin Smith ");
     EXPECT_EQ(d.caption("p2"), "Benjamin Smith");
     EXPECT_EQ(d.caption("text1"), elodie + " choose your two numbers.");
     // Player 1 (red) starts; the waiting player's name is faded.
@@ -103,7 +104,9 @@ TEST(TwoPlayerFourInARow, TurnsPassOnEveryClaimWrongCellAndPass)
     EXPECT_EQ(d.platform.messages(),
               std::vector<std::string>{"That is not correct! Your turn is passed to Ben."});
     EXPECT_EQ(d.caption("text1"), "Ben choose your two numbers.");
+    // A double-click on PASS hands the turn over once, not there and back.
     d.click("pass");
+    d.doubleClick("pass");
     EXPECT_EQ(d.caption("text1"), "Ann choose your two numbers.");
     d.click("Label1", wrong); // no numbers chosen: a reminder, nothing claimed
     EXPECT_EQ(g.screen().board().claimed(), 2);

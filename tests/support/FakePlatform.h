@@ -30,6 +30,7 @@ public:
     void queueYesNo(int reply) { yesNo_.push_back(reply); }
     void queueYes() { queueYesNo(kYes); }
     void queueNo() { queueYesNo(kNo); }
+    void queueCancel() { queueYesNo(kCancel); } // the box closed or escaped unanswered
     void queueInput(std::string reply) { inputs_.push_back(std::move(reply)); }
     // Draws returned in order by random(); once they run out, a fixed-seed generator answers
     // (or, with strictDraws, the test fails).

@@ -2,12 +2,15 @@
 // puts numbers in numeric order with empty cells last, the name filter and the frozen name
 // column work, bad files are listed, and a pupil saving into the folder shows up by itself.
 #include "classview/ClassWindow.h"
+#include "classview/ClassPrint.h"
 #include "classview/ClassTableModel.h"
 #include "classview/FrozenTableView.h"
 #include "shell/AchievementTable.h"
 #include "shell/record/RecordCodec.h"
 
+#include <QFileInfo>
 #include <QListWidget>
+#include <QPrinter>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -81,6 +84,13 @@ TEST(ClassWindow, ShowsSortsFiltersAndFollowsTheFolder)
     w.setFilter("e");
     EXPECT_EQ(column(w, ClassTableModel::kPupilColumn), (QStringList{"Ben", "Dee"}));
     w.setFilter("");
+
+    // On paper: a landscape PDF with every shown row.
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(dir.filePath("class.pdf"));
+    printRoll(printer, w.model().roll(), w.proxy().shownRows(), "22 November 2026");
+    EXPECT_GT(QFileInfo(dir.filePath("class.pdf")).size(), 1000);
 
     // A pupil saves a new record: the folder is read again without being asked.
     writePupil(dir.path(), "e.DAT", "Eve", 42);

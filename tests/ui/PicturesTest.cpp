@@ -23,8 +23,7 @@ QImage paintCover(bool &painted)
 
 TEST(Pictures, LargePicturesArePaintedBackFromTheirRenderingOnDisk)
 {
-    // Each test runs in a process of its own: the cache folder is a test folder from the start.
-    QStandardPaths::setTestModeEnabled(true);
+    QStandardPaths::setTestModeEnabled(true); // the cache folder is a test folder
     QDir folder(QStandardPaths::writableLocation(QStandardPaths::CacheLocation) + "/pictures");
     folder.removeRecursively();
 

@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPrinterInfo>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -226,6 +227,16 @@ TEST_F(WindowTest, FocusFollowsTheScreensRequest)
     widget("answer")->setFocus();
     window.syncAll();
     EXPECT_TRUE(widget("answer")->hasFocus());
+    // Tab goes from box to box and never rests on a button, where Enter would press it.
+    for (int i = 0; i < 8; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_FALSE(qobject_cast<QPushButton *>(QApplication::focusWidget()))
+            << "Tab landed on " << QApplication::focusWidget()->objectName().toStdString();
+    }
+    // The screen can still give a button the focus.
+    p.setFocus("leave");
+    window.syncAll();
+    EXPECT_TRUE(widget("leave")->hasFocus());
 }
 
 TEST_F(WindowTest, WidgetsReportTheirStateBeforeTheEvent)

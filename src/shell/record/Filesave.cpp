@@ -52,27 +52,47 @@ void Filesave::act()
     nameBox() = checked.name;
     // A new pupil never writes over another's record; a pupil whose record was loaded may.
     if (!p.LoadedFromFile.equalsNumber(1) && record::nameTaken(folder(), checked.name)) {
-        platform().message("There is already a file with this name. Use a different filename.");
-        nameBox().clear();
+        nameTakenMessage();
         return;
     }
-    if (!save(folder(), checked.name))
+    if (!save(folder(), checked.name) && !nameBox().empty())
         nameBox() = typed; // as typed, so OK can be pressed again once another folder is chosen
+}
+
+void Filesave::nameTakenMessage()
+{
+    platform().message("There is already a file with this name. Use a different filename.");
+    nameBox().clear();
 }
 
 bool Filesave::save(const std::filesystem::path &dir, const std::string &fileName)
 {
     PupilProgress &p = progress();
     p.FileNumber = Value::int16(1);
-    const std::string problem = record::writeRecordFile(dir / fileName, record::encode(p));
-    if (!problem.empty()) {
-        platform().message("Your record could not be saved as " + fileName + ": " + problem +
-                           ". Your progress is still here: choose another folder and press OK "
-                           "to save again.");
+    const record::WriteMode mode =
+        p.LoadedFromFile.equalsNumber(1) ? record::WriteMode::Replace : record::WriteMode::NewFile;
+    const record::WriteOutcome out =
+        record::writeRecordFile(dir / fileName, record::encode(p), mode);
+    switch (out.result) {
+    case record::WriteOutcome::Result::Saved:
+        app().endProgram();
+        return true;
+    case record::WriteOutcome::Result::NameTaken: // another program saved that name just now
+        nameTakenMessage();
         return false;
+    case record::WriteOutcome::Result::ReadOnly:
+        platform().message("Your record could not be saved as " + fileName +
+                           ": that file is marked read-only, so it was left as it is. Your "
+                           "progress is still here: type a new name and press OK to save it.");
+        nameBox().clear();
+        return false;
+    case record::WriteOutcome::Result::Failed:
+        break;
     }
-    app().endProgram();
-    return true;
+    platform().message("Your record could not be saved as " + fileName + ": " + out.problem +
+                       ". Your progress is still here: choose another folder and press OK "
+                       "to save again.");
+    return false;
 }
 
 } // namespace nb

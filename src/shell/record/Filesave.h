@@ -15,8 +15,10 @@ protected:
     void act() override;
 
 private:
-    // Writes the record and ends the program; on failure says why and returns false.
+    // Writes the record and ends the program; on failure says why and returns false, with the
+    // name box cleared when another name is needed.
     bool save(const std::filesystem::path &dir, const std::string &fileName);
+    void nameTakenMessage();
 };
 
 } // namespace nb

@@ -190,6 +190,7 @@ bool RecordFileScreen::showFolder(const fs::path &folder, bool open)
     const std::optional<Listing> listing = listFolder(target);
     if (!listing)
         return false;
+    record::clearStaleTemporaries(target); // left by saves that were cut short
     if (open) {
         Control &dirs = ctl("dirdirectory");
         dirs.items.clear();

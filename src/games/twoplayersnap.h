@@ -1,0 +1,77 @@
+#pragma once
+// Snap for two pupils at one keyboard. Each pupil types a name; then cards showing calculations
+// are dealt one at a time on a clock, and a pupil who sees two cards of the same value on show
+// calls SNAP with their key (A for player 1, L for player 2). A right call scores for the caller,
+// a wrong one for the other pupil; five points win the game.
+#include "core/Screen.h"
+#include "games/SnapDeck.h"
+
+#include <array>
+#include <chrono>
+#include <string>
+
+namespace nb {
+
+class TwoPlayerSnap : public Screen
+{
+public:
+    explicit TwoPlayerSnap(App &app);
+
+    void onOpened() override;
+    void onClick(const std::string &name, int index) override;
+    void onKeyPress(const std::string &name, int index, int &key) override;
+    void onScreenKey(int key) override;
+    void onTimer(const std::string &name) override;
+
+    static constexpr int kWinningPoints = 5;
+    static constexpr int kLongestName = 14; // letters
+    // After a call, further calls wait this long: a second key pressed at almost the same moment
+    // was meant for the pair that has just been called, not for the card dealt in its place.
+    static constexpr std::chrono::milliseconds kSettle{750};
+    // A press of the same key within this time of that key's last press is taken as the key held
+    // down (the keyboard repeats it) and does not count.
+    static constexpr std::chrono::milliseconds kHeld{750};
+
+    // Milliseconds between cards at a level.
+    static int dealInterval(int level);
+
+    // The game as it stands, for tests and the look.
+    const snap::Deck &deck() const { return deck_; }
+    // The card on show beneath (0) and the one just dealt (1), or -1 for none.
+    int cardOnShow(int slot) const { return shown_[std::size_t(slot)]; }
+    int points(int player) const { return points_[std::size_t(player)]; }
+    int cardsDealt() const { return dealt_; }
+
+private:
+    enum class Stage { Waiting, Naming1, Naming2, Dealing, Boxed };
+
+    void buildControls();
+    void buildPlayerPanel(int player, int left);
+    void askName(int player);
+    void acceptName(int player);
+    void newGame();
+    void dealNext();
+    void reshuffle();
+    void call(int player);
+    void won(int player);
+    void leave();
+    void showCards();
+    void showScores();
+    // Marks what a call earned in the players' panels (caller -1 clears them).
+    void showCallResult(int caller, bool right);
+    void restartDealing();
+
+    Stage stage_ = Stage::Waiting;
+    int level_ = 1;
+    snap::Deck deck_;
+    int dealt_ = 0;                    // cards dealt from the current order
+    std::array<int, 2> shown_{-1, -1}; // card beneath, card just dealt
+    std::array<int, 2> points_{};
+    std::array<std::string, 2> names_;
+    std::array<bool, 2> pressed_{};
+    std::array<std::chrono::system_clock::time_point, 2> lastPress_{};
+    bool called_ = false;
+    std::chrono::system_clock::time_point lastCall_{};
+};
+
+} // namespace nb
