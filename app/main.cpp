@@ -1,4 +1,6 @@
 // NUMBROOK: starts the window on the cover screen and runs until the program ends.
+// `numbrook --help` and `numbrook --version` print and exit without opening a window; any other
+// argument is left to Qt as before.
 //
 // Developer conveniences (no effect unless set):
 //   NUMBROOK_START=<screen>       open that screen instead of the cover
@@ -17,13 +19,47 @@
 #include "ui/QtPlatform.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QRegularExpression>
 #include <QTimer>
 
 #include <cstdio>
+#include <cstring>
+
+namespace {
+
+bool asksForText(int argc, char *argv[])
+{
+    for (int i = 1; i < argc; ++i)
+        for (const char *word : {"-h", "--help", "-?", "--help-all", "-v", "--version"})
+            if (std::strcmp(argv[i], word) == 0)
+                return true;
+    return false;
+}
+
+// Prints the help or the version; needs no window system.
+int printText(int argc, char *argv[])
+{
+    QCoreApplication core(argc, argv);
+    QCoreApplication::setApplicationName("numbrook");
+    QCoreApplication::setApplicationVersion(QStringLiteral(NUMBROOK_VERSION));
+    QCommandLineParser parser;
+    parser.setApplicationDescription("NUMBROOK: arithmetic practice for primary-school children.\n"
+                                     "Opens the program's window; a pupil types a name or loads a "
+                                     "record and picks a topic.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.process(core); // prints and exits
+    return 0;
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
+    if (asksForText(argc, argv))
+        return printText(argc, argv);
+
     QApplication qapp(argc, argv);
     nb::ui::setUpApplication(qapp);
 
@@ -65,6 +101,10 @@ int main(int argc, char *argv[])
         window.installEventFilter(&reporter);
 
     window.show();
+    // The audio device is opened just after the window has painted, long before a first answer
+    // can be typed, so that answer sounds at once and the first paint does not wait for it.
+    if (platform.soundOn())
+        QTimer::singleShot(200, &window, [&platform] { platform.sound().prepare(); });
     const QString first = qEnvironmentVariable("NUMBROOK_START", "cover");
     if (!window.start(first.toStdString()) && !app.ended()) {
         std::fprintf(stderr, "no screen called %s\n", qPrintable(first));

@@ -12,6 +12,8 @@ public:
     std::string inputReply = "Pupil";
 
     void beep() override {}
+    bool soundOn() override { return soundOn_; }
+    void setSoundOn(bool on) override { soundOn_ = on; }
     void message(const std::string &, const std::string &, MsgIcon, const std::string &) override {}
     int askYesNo(const std::string &, const std::string &) override { return yesNoReply; }
     std::string inputBox(const std::string &, const std::string &, const std::string &) override
@@ -25,6 +27,7 @@ public:
     PrintOutcome printScreen(const Screen &, const std::string &) override { return {}; }
 
 private:
+    bool soundOn_ = true;
     UniformRandom random_{42};
 };
 

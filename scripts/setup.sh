@@ -5,9 +5,10 @@ set -euo pipefail
 
 packages=(
   g++ cmake ninja-build pkg-config
-  qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev
+  qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-multimedia-dev libgl-dev
   libgtest-dev libbenchmark-dev
   fonts-comic-neue
+  appstream desktop-file-utils dpkg-dev file
   locales
 )
 

@@ -29,7 +29,11 @@ class Platform
 public:
     virtual ~Platform() = default;
 
+    // A short sound for a right answer (or the bell). Returns at once; silent while sound is off.
     virtual void beep() = 0;
+    // Whether beep() makes a sound; the choice is kept between runs, outside the pupil's record.
+    virtual bool soundOn() = 0;
+    virtual void setSoundOn(bool on) = 0;
     // An OK box. An empty title means the program's own name. Details (a technical reason) are
     // kept behind a button of the box.
     virtual void message(const std::string &text, const std::string &title = {},

@@ -65,6 +65,12 @@ MainMenu::MainMenu(App &app)
         pictureButton(kTopics[i].button, kTopics[i].spoken, kTopics[i].picture, left, top, 3000,
                       2500);
     }
+    // The right-answer chime on or off, beside the second row of topics; the choice belongs to
+    // the computer rather than to a pupil's record.
+    Control &sound = checkBox("chkSound", "Sound", 9750, 6650, 1900, 600);
+    sound.font.points = 16;
+    sound.font.bold = true;
+    sound.foreColor = rgb(40, 40, 120);
     setFocus("Command2");
 }
 
@@ -76,6 +82,7 @@ void MainMenu::onActivated()
 
 void MainMenu::onOpened()
 {
+    ctl("chkSound").value = platform().soundOn() ? 1 : 0;
     showPupil();
     if (progress().Unsaved.equalsNumber(1)) {
         setEnabled("Command2", false);
@@ -93,6 +100,8 @@ void MainMenu::onClick(const std::string &name, int)
         app().show("Filesystem");
     } else if (name == "Command1") {
         exitProgram();
+    } else if (name == "chkSound") {
+        platform().setSoundOn(ctl("chkSound").value == 1);
     } else {
         for (const Topic &t : kTopics)
             if (name == t.button)

@@ -4,7 +4,8 @@
 namespace nb {
 
 // The main menu: NEW takes a pupil's name, LOAD reads a record, EXIT leaves (offering to save
-// when a pupil is active), and five pictures open the topic menus.
+// when a pupil is active), five pictures open the topic menus, and Sound switches the
+// right-answer chime on or off for every pupil on this computer.
 class MainMenu : public Screen
 {
 public:

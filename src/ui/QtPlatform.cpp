@@ -40,7 +40,9 @@ private:
 
 } // namespace
 
-QtPlatform::QtPlatform() = default;
+QtPlatform::QtPlatform(QString settingsFile)
+    : sound_(std::move(settingsFile))
+{}
 
 BoxAnswer QtPlatform::openBox(const BoxRequest &request)
 {
@@ -59,11 +61,6 @@ BoxAnswer QtPlatform::showDialog(const BoxRequest &request)
 {
     const ScreenView *front = window_ ? window_->frontView() : nullptr;
     return ProgramBox::run(request, front ? front->scale() : 1.0, window_);
-}
-
-void QtPlatform::beep()
-{
-    QApplication::beep();
 }
 
 void QtPlatform::message(const std::string &text, const std::string &title, MsgIcon icon,

@@ -1,10 +1,11 @@
 #pragma once
-// The real platform: Qt message boxes, the system beep, the clock, the user's folders, printing.
-// Before a box opens every view is brought up to date and painted, and the screen timers stand
-// still until it is answered.
+// The real platform: Qt message boxes, the right-answer sound, the clock, the user's folders,
+// printing. Before a box opens every view is brought up to date and painted, and the screen timers
+// stand still until it is answered.
 #include "core/Platform.h"
 #include "core/Random.h"
 #include "ui/ProgramBox.h"
+#include "ui/Sound.h"
 
 #include <functional>
 #include <string>
@@ -16,7 +17,8 @@ class MainWindow;
 class QtPlatform : public Platform
 {
 public:
-    QtPlatform();
+    // settingsFile: where the sound choice is kept; empty means the user's usual settings.
+    explicit QtPlatform(QString settingsFile = {});
 
     // The window whose views are synced and whose timers pause around boxes; also the boxes'
     // parent. May be null (boxes then open on their own).
@@ -27,7 +29,10 @@ public:
     using Answerer = std::function<BoxAnswer(const BoxRequest &)>;
     void setAnswerer(Answerer answerer) { answerer_ = std::move(answerer); }
 
-    void beep() override;
+    void beep() override { sound_.play(); }
+    bool soundOn() override { return sound_.on(); }
+    void setSoundOn(bool on) override { sound_.setOn(on); }
+    Sound &sound() { return sound_; }
     void message(const std::string &text, const std::string &title, MsgIcon icon,
                  const std::string &details) override;
     int askYesNo(const std::string &text, const std::string &title) override;
@@ -46,6 +51,7 @@ private:
     MainWindow *window_ = nullptr;
     Answerer answerer_;
     UniformRandom random_;
+    Sound sound_;
 };
 
 } // namespace nb::ui

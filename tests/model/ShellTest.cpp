@@ -173,5 +173,40 @@ TEST_F(Shell, UnbuiltActivitiesAreDisabled)
     EXPECT_EQ(d.enabled("Command2"), d.registry.has("ADD333"));
 }
 
+TEST_F(Shell, SoundBoxFollowsTheComputersChoiceAndLeavesTheRecordAlone)
+{
+    d.newPupil();
+    const PupilProgress before = d.progress();
+    EXPECT_EQ(d.front().ctl("chkSound").value, 1) << "sound starts on";
+    d.click("chkSound");
+    EXPECT_FALSE(d.platform.soundOn());
+    EXPECT_TRUE(d.platform.shown.size() == 1u) << "only the name box: no question";
+    // The menu opens afresh after a topic menu; it shows the kept choice, and turning sound back
+    // on reaches the platform too.
+    d.click("Command5");
+    d.click("Command7");
+    EXPECT_EQ(d.front().ctl("chkSound").value, 0);
+    d.click("chkSound");
+    EXPECT_TRUE(d.platform.soundOn());
+    for (const auto &f : PupilProgress::recordFields())
+        EXPECT_TRUE(d.progress().*f.member == before.*f.member) << f.name;
+}
+
+TEST_F(Shell, SoundBoxStaysClearOfEveryOtherControl)
+{
+    const Control &sound = d.front().ctl("chkSound");
+    const auto inside = [](const Control &c) {
+        return c.left >= 0 && c.top >= 0 && c.left + c.width <= 12000 && c.top + c.height <= 9000;
+    };
+    EXPECT_TRUE(inside(sound));
+    for (const Control &c : d.front().controls()) {
+        if (c.name == "chkSound")
+            continue;
+        const bool apart = c.left >= sound.left + sound.width || sound.left >= c.left + c.width ||
+                           c.top >= sound.top + sound.height || sound.top >= c.top + c.height;
+        EXPECT_TRUE(apart) << c.name << " overlaps the sound box";
+    }
+}
+
 } // namespace
 } // namespace nb::test

@@ -54,6 +54,8 @@ public:
 
     // Platform
     void beep() override { ++beeps; }
+    bool soundOn() override { return soundOn_; }
+    void setSoundOn(bool on) override { soundOn_ = on; }
     void message(const std::string &text, const std::string &title, MsgIcon icon,
                  const std::string &details) override;
     int askYesNo(const std::string &text, const std::string &title) override;
@@ -68,6 +70,7 @@ public:
     std::chrono::system_clock::time_point clock_{std::chrono::seconds(1'800'000'000)};
 
 private:
+    bool soundOn_ = true;
     std::deque<int> yesNo_;
     std::deque<std::string> inputs_;
     std::deque<double> draws_;
