@@ -7,7 +7,6 @@
 #include "games/SnapDeck.h"
 
 #include <array>
-#include <chrono>
 #include <string>
 
 namespace nb {
@@ -25,12 +24,6 @@ public:
 
     static constexpr int kWinningPoints = 5;
     static constexpr int kLongestName = 14; // letters
-    // After a call, further calls wait this long: a second key pressed at almost the same moment
-    // was meant for the pair that has just been called, not for the card dealt in its place.
-    static constexpr std::chrono::milliseconds kSettle{750};
-    // A press of the same key within this time of that key's last press is taken as the key held
-    // down (the keyboard repeats it) and does not count.
-    static constexpr std::chrono::milliseconds kHeld{750};
 
     // Milliseconds between cards at a level.
     static int dealInterval(int level);
@@ -68,10 +61,6 @@ private:
     std::array<int, 2> shown_{-1, -1}; // card beneath, card just dealt
     std::array<int, 2> points_{};
     std::array<std::string, 2> names_;
-    std::array<bool, 2> pressed_{};
-    std::array<std::chrono::system_clock::time_point, 2> lastPress_{};
-    bool called_ = false;
-    std::chrono::system_clock::time_point lastCall_{};
 };
 
 } // namespace nb
