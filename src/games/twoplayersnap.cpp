@@ -297,9 +297,15 @@ void TwoPlayerSnap::onScreenKey(int key)
     const int player = key == 'a' || key == 'A' ? 0 : key == 'l' || key == 'L' ? 1 : -1;
     if (player < 0)
         return;
-    // Every press is a call on the two cards on show, however quickly it follows the last one; a
-    // key held down reaches the screen once, as the window does not pass on the keyboard's repeats.
-    if (stage_ == Stage::Dealing && shown_[0] >= 0)
+    // Every press is a call on the two cards on show, however quickly it follows the last one,
+    // except the keyboard's quick repeats of a key held down (each repeat restarts the span, so
+    // the whole stream is passed over). The keyboard's first repeat comes after a pause as long
+    // as a pupil's second press and calls like one. A clock set back never makes a repeat.
+    const auto now = platform().now();
+    auto &last = lastPress_[std::size_t(player)];
+    const bool repeat = last && now >= *last && now - *last < kRepeat;
+    last = now;
+    if (!repeat && stage_ == Stage::Dealing && shown_[0] >= 0)
         call(player);
 }
 

@@ -7,6 +7,8 @@
 #include "games/SnapDeck.h"
 
 #include <array>
+#include <chrono>
+#include <optional>
 #include <string>
 
 namespace nb {
@@ -24,6 +26,10 @@ public:
 
     static constexpr int kWinningPoints = 5;
     static constexpr int kLongestName = 14; // letters
+    // A key held down repeats at about 25 presses a second, and some windowing systems pass the
+    // repeats on as fresh presses. A press of a key within this time of that key's previous press
+    // is such a repeat and does not call: no finger, and no pupil reading two cards, is that quick.
+    static constexpr std::chrono::milliseconds kRepeat{80};
 
     // Milliseconds between cards at a level.
     static int dealInterval(int level);
@@ -61,6 +67,7 @@ private:
     std::array<int, 2> shown_{-1, -1}; // card beneath, card just dealt
     std::array<int, 2> points_{};
     std::array<std::string, 2> names_;
+    std::array<std::optional<std::chrono::system_clock::time_point>, 2> lastPress_;
 };
 
 } // namespace nb
