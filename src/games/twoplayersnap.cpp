@@ -57,14 +57,6 @@ std::string trimmed(const std::string &s)
     return s.substr(first, s.find_last_not_of(' ') - first + 1);
 }
 
-// Whether now lies less than span after since. A clock set back reads as a long time since, never
-// as a moment ago.
-bool within(std::chrono::system_clock::time_point since, std::chrono::milliseconds span,
-            std::chrono::system_clock::time_point now)
-{
-    return now >= since && now - since < span;
-}
-
 } // namespace
 
 TwoPlayerSnap::TwoPlayerSnap(App &app)
@@ -264,7 +256,6 @@ void TwoPlayerSnap::newGame()
     deck_.shuffle(draw);
     dealt_ = 0;
     shown_ = {-1, -1};
-    called_ = false;
     stage_ = Stage::Dealing;
     setTimer("Timer1", true);
     dealNext();
@@ -306,18 +297,16 @@ void TwoPlayerSnap::onScreenKey(int key)
     const int player = key == 'a' || key == 'A' ? 0 : key == 'l' || key == 'L' ? 1 : -1;
     if (player < 0)
         return;
-    const std::size_t p = std::size_t(player);
+    // Every press is a call on the two cards on show, however quickly it follows the last one,
+    // except the keyboard's quick repeats of a key held down (each repeat restarts the span, so
+    // the whole stream is passed over). The keyboard's first repeat comes after a pause as long
+    // as a pupil's second press and calls like one. A clock set back never makes a repeat.
     const auto now = platform().now();
-    const bool held = pressed_[p] && within(lastPress_[p], kHeld, now);
-    pressed_[p] = true;
-    lastPress_[p] = now;
-    if (held || stage_ != Stage::Dealing || shown_[0] < 0)
-        return;
-    if (called_ && within(lastCall_, kSettle, now))
-        return;
-    called_ = true;
-    lastCall_ = now;
-    call(player);
+    auto &last = lastPress_[std::size_t(player)];
+    const bool repeat = last && now >= *last && now - *last < kRepeat;
+    last = now;
+    if (!repeat && stage_ == Stage::Dealing && shown_[0] >= 0)
+        call(player);
 }
 
 void TwoPlayerSnap::call(int player)

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <chrono>
+#include <optional>
 #include <string>
 
 namespace nb {
@@ -25,12 +26,10 @@ public:
 
     static constexpr int kWinningPoints = 5;
     static constexpr int kLongestName = 14; // letters
-    // After a call, further calls wait this long: a second key pressed at almost the same moment
-    // was meant for the pair that has just been called, not for the card dealt in its place.
-    static constexpr std::chrono::milliseconds kSettle{750};
-    // A press of the same key within this time of that key's last press is taken as the key held
-    // down (the keyboard repeats it) and does not count.
-    static constexpr std::chrono::milliseconds kHeld{750};
+    // A key held down repeats at about 25 presses a second, and some windowing systems pass the
+    // repeats on as fresh presses. A press of a key within this time of that key's previous press
+    // is such a repeat and does not call: no finger, and no pupil reading two cards, is that quick.
+    static constexpr std::chrono::milliseconds kRepeat{80};
 
     // Milliseconds between cards at a level.
     static int dealInterval(int level);
@@ -68,10 +67,7 @@ private:
     std::array<int, 2> shown_{-1, -1}; // card beneath, card just dealt
     std::array<int, 2> points_{};
     std::array<std::string, 2> names_;
-    std::array<bool, 2> pressed_{};
-    std::array<std::chrono::system_clock::time_point, 2> lastPress_{};
-    bool called_ = false;
-    std::chrono::system_clock::time_point lastCall_{};
+    std::array<std::optional<std::chrono::system_clock::time_point>, 2> lastPress_;
 };
 
 } // namespace nb

@@ -41,7 +41,7 @@ protected:
     }
     void press(int key) // a fresh press, well after any earlier one
     {
-        d.platform.clock_ += 2s;
+        d.platform.clock_ += 1s;
         d.screenKey(key);
     }
     Driver d;
@@ -137,23 +137,59 @@ TEST_F(Snap, KeysThatAreNotCallsScoreNothing)
         press(key);
     EXPECT_EQ(total(), 0);
     EXPECT_EQ(d.platform.beeps, 0);
+}
 
-    d.platform.clock_ += 2s;
-    d.screenKeys("aL"); // together: Ann was first
-    d.platform.clock_ += 200ms;
-    d.screenKey('l');
-    EXPECT_EQ(game().points(0), 1);
-    EXPECT_EQ(total(), 1);
-    // Bob's key held down, repeating every 30 ms for three seconds over several deals, calls once.
-    d.platform.clock_ += 2s;
-    for (int n = 0; n < 100; ++n, d.platform.clock_ += 30ms) {
-        d.screenKey('l');
-        if (n % 40 == 39)
+TEST_F(Snap, EveryPressIsACallOnTheCardsOnShowHoweverFastTheyCome)
+{
+    play();
+    ASSERT_TRUE(dealUntil(true));
+    // Both players see the snap and press at the same instant, then both press again a tenth of a
+    // second later: each press is judged on the pair on show when it comes, A's first.
+    struct Press
+    {
+        char key;
+        std::chrono::milliseconds after;
+    } presses[] = {{'a', 0ms}, {'L', 0ms}, {'l', 100ms}, {'A', 0ms}};
+    std::array<int, 2> expected{};
+    int rights = 0;
+    for (const Press &p : presses) { // four calls: nobody can reach five
+        SCOPED_TRACE(std::string(1, p.key));
+        const auto beneath = captionValue(d.caption("cardface", 0));
+        const bool right = beneath && beneath == captionValue(d.caption("cardface", 1));
+        const int caller = p.key == 'a' || p.key == 'A' ? 0 : 1;
+        ++expected[std::size_t(right ? caller : 1 - caller)];
+        rights += right ? 1 : 0;
+        d.platform.clock_ += p.after;
+        d.screenKey(p.key);
+        EXPECT_EQ(game().points(0), expected[0]);
+        EXPECT_EQ(game().points(1), expected[1]);
+    }
+    EXPECT_EQ(total(), 4);
+    EXPECT_EQ(d.platform.beeps, rights);
+    EXPECT_GE(game().points(0), 1) << "A was first on the snap";
+}
+
+TEST_F(Snap, AKeyHeldDownCallsOnceWhileItRepeatsQuickly)
+{
+    play();
+    ASSERT_TRUE(dealUntil(true));
+    // A repeating every 40 ms for two seconds, over several deals; the other player's key at the
+    // same time is a press of its own.
+    for (int n = 0; n < 50; ++n, d.platform.clock_ += 40ms) {
+        d.screenKey('a');
+        if (n == 10)
+            d.screenKey('l');
+        if (n % 20 == 19)
             d.tick("Timer1");
     }
     EXPECT_EQ(total(), 2);
-    press('l'); // let go and pressed again
+    EXPECT_GE(game().points(0), 1) << "the first press of A was on the snap";
+    d.platform.clock_ += 100ms; // let go and pressed again
+    d.screenKey('a');
     EXPECT_EQ(total(), 3);
+    d.platform.clock_ -= 1h; // the clock set back: still a press
+    d.screenKey('a');
+    EXPECT_EQ(total(), 4);
 }
 
 TEST_F(Snap, AWrongCallThatBringsTheOtherPlayerToFiveEndsTheGame)
@@ -224,7 +260,7 @@ public:
     void hammer()
     {
         for (int key : {'a', 'L', 'A', 'l'}) {
-            clock_ += 2s;
+            clock_ += 1s; // fresh presses, not a key held down
             app->screenKey(*app->front(), key);
         }
     }
@@ -258,7 +294,7 @@ TEST(SnapBoxes, KeysPressedWhileABoxIsOpenDoNothing)
             continue;
         if (game.points(1) == TwoPlayerSnap::kWinningPoints - 1)
             platform.queueYes();
-        platform.clock_ += 2s;
+        platform.clock_ += 1s;
         app.screenKey(s, 'a');
     }
     EXPECT_EQ(game.points(0) + game.points(1), 0);
