@@ -152,8 +152,7 @@ TEST(DartsCheckout, EveryScoreHasAnAimThatHitsItsBedAndNeverBusts)
     EXPECT_LT(computerAim(32).point.x, kCentreX);
 }
 
-// The colour a filled shape of a drawing shows at a point (the topmost one), as the window
-// paints it; wires and text are left out.
+// The colour the topmost filled shape paints at a point; wires and text are left out.
 std::uint32_t paintedAt(const Drawing &d, double x, double y)
 {
     for (auto it = d.ops.rbegin(); it != d.ops.rend(); ++it) {
@@ -192,24 +191,15 @@ bool wireAt(const Drawing &d, double x, double y)
     return false;
 }
 
+// The colour of a bed that scores (a missed dart has none).
 std::uint32_t expectedColour(const Hit &h)
 {
-    switch (h.bed) {
-    case Bed::Single:
-        return DartsFrame::darkSector(h.number) ? DartsFrame::kDarkSector
-                                                : DartsFrame::kCreamSector;
-    case Bed::Double:
-    case Bed::Treble:
-    case Bed::Quad:
-        return DartsFrame::darkSector(h.number) ? DartsFrame::kRedRing : DartsFrame::kGreenRing;
-    case Bed::Bull:
-        return DartsFrame::kRedRing;
-    case Bed::OuterBull:
-        return DartsFrame::kGreenRing;
-    case Bed::Missed:
-        break;
-    }
-    return 0;
+    if (h.bed == Bed::Bull || h.bed == Bed::OuterBull)
+        return h.bed == Bed::Bull ? DartsFrame::kRedRing : DartsFrame::kGreenRing;
+    const bool dark = DartsFrame::darkSector(h.number);
+    if (h.bed == Bed::Single)
+        return dark ? DartsFrame::kDarkSector : DartsFrame::kCreamSector;
+    return dark ? DartsFrame::kRedRing : DartsFrame::kGreenRing;
 }
 
 // A mark whose middle is at a drawn point scores the bed drawn there; rim numbers match too.

@@ -152,18 +152,6 @@ TEST(DartsClicks, ANewBoardScoresTheClickedPointItself)
     }
 }
 
-TEST(DartsClicks, EveryNumberIsFoundByClickingTheMiddleOfItsSector)
-{
-    for (std::size_t i = 0; i < kClockwiseFromTop.size(); ++i) {
-        Driver d;
-        startDarts(d);
-        const PointTw p = bedAimPoint(i <= 10, kClockwiseFromTop[i], Bed::Single);
-        ASSERT_TRUE(d.pressAt(p.x, p.y));
-        EXPECT_EQ(d.caption("text1") + " " + d.caption("text2"),
-                  "Single " + std::to_string(kClockwiseFromTop[i]));
-    }
-}
-
 TEST_F(DartsPlay, ADartOnASectorLineScoresTheNumberOfTheDartBefore)
 {
     dart(bedAimPoint(true, 13, Bed::Treble));         // 39: 262 left

@@ -218,8 +218,7 @@ TEST(LayoutScreens, KeysThatFindNoBoxGoToTheWaitingOne)
         p.queue(p.aOf(4), p.bOf(3));
         p.d.click("Command1");
         const std::string first = p.focusId();
-        // The focus strayed (say onto EXIT): the keys still land in the waiting box, the guard
-        // included, and Enter checks it there.
+        // The focus strayed onto EXIT: keys still land in the waiting box, guard and Enter too.
         p.d.front().setFocus("Command13");
         p.d.screenKeys("07");
         EXPECT_EQ(p.focusId(), first);

@@ -1,6 +1,5 @@
 #pragma once
-// What the grid and lattice tests know about the eight screens: their digit ranges and best-time
-// slots, the draws that make a chosen question, and a pupil who fills the waiting box.
+// The eight grid and lattice screens' digit ranges and best-time slots, and a scripted pupil.
 #include "core/NumberText.h"
 #include "core/PupilProgress.h"
 #include "layouts/LayoutStep.h"
