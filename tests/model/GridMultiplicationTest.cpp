@@ -1,5 +1,4 @@
-// The grid screens as a pupil meets them: the parts of the factors set out, every cell worked out
-// and the product typed, box by box in the screen's order, with each box's colours and the prompts.
+// The grid screens box by box in the screen's order, with each box's colours and prompts.
 #include "LayoutScreensTestSupport.h"
 #include "activity/PraiseList.h"
 

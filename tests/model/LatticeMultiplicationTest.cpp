@@ -1,7 +1,5 @@
-// The lattice screens: the worked examples of the 2-digit by 1-digit lattice box by box, the
-// shading under the boxes, when boxes are emptied, each lattice's boxes, and every question of all
-// four lattices filled in the lattice's order, each box checked against values worked out here
-// from A and B alone.
+// The lattice screens: worked examples box by box, each lattice's boxes, and every question of
+// all four lattices checked against values worked out here from A and B alone.
 #include "LayoutScreensTestSupport.h"
 #include "layouts/Lattice.h"
 #include "layouts/LatticeFrame.h"
@@ -168,13 +166,6 @@ TEST(LatticeMultiplication, EachLatticeHasItsBoxesAndStartClearsThem)
         EXPECT_EQ(boxes["question"], c.digits);
         EXPECT_EQ(boxes["answers"], c.triangles);
         EXPECT_EQ(boxes["answerbox"], c.sums);
-        // The lattice's outline, trays and band edges, and its fixed texts, by name.
-        for (const char *name : {"Shape1", "Shape3", "Shape4", "Line1", "Line2", "Label1"})
-            EXPECT_NE(screen.find(name, -1), nullptr) << name;
-        for (int i : {0, 1, 2})
-            EXPECT_NE(screen.find("Questions", i), nullptr) << i;
-        EXPECT_EQ(d.caption("Questions", 0), "Question");
-        EXPECT_EQ(d.caption("Questions", 1), "Answer");
         for (int i : c.hidden)
             EXPECT_FALSE(d.visible("answerbox", i));
         // START empties every box and the question line before the first question.
@@ -182,11 +173,9 @@ TEST(LatticeMultiplication, EachLatticeHasItsBoxesAndStartClearsThem)
             if (control.kind == ControlKind::TextBox || control.name == "questionbox")
                 control.caption = "9";
         d.click("Command1");
-        for (const Control &control : screen.controls()) {
-            if (control.kind == ControlKind::TextBox) {
-                EXPECT_EQ(control.caption, "") << control.id();
-            }
-        }
+        for (const Control &control : screen.controls())
+            EXPECT_TRUE(control.kind != ControlKind::TextBox || control.caption.empty())
+                << control.id();
     }
 }
 
@@ -221,10 +210,9 @@ struct Box
 };
 using Filled = std::vector<Box>;
 
-// True when the boxes, filled in that order with those values, are the lattice of a x b: each
-// value is the oracle's, every digit box and triangle is filled, the strip digits read from the
-// units give exactly a x b, and a carry box follows a strip's digit exactly when the strip
-// reaches 10.
+// True when the boxes, filled in that order, are the lattice of a x b: each value is the oracle's,
+// every digit box and triangle is filled, the strip digits read a x b, and a carry box follows a
+// strip's digit exactly when the strip reaches 10.
 bool isLatticeOf(const LayoutScreen &s, int a, int b, const Filled &filled)
 {
     const Oracle oracle(a, b, int(s.b.size()));

@@ -1,10 +1,7 @@
-// The frame every grid and lattice screen shares, checked on all eight: the digit ranges, the
-// input guard, penalties, disabled boxes, the five-question run with its best-time check, NEXT
-// and EXIT.
+// The frame every grid and lattice screen shares, checked on all eight.
 #include "LayoutScreensTestSupport.h"
 #include "activity/AnswerBoxFilter.h"
 #include "layouts/LayoutFrame.h"
-#include "layouts/LayoutStep.h"
 
 namespace nb::test {
 namespace {
@@ -42,35 +39,35 @@ void playRun(LayoutPupil &p, int reply)
     }
 }
 
+// The question with every digit at the low (or high) end of its range, as "AxB".
+std::string extreme(const LayoutScreen &s, bool high)
+{
+    std::string out;
+    for (const auto *ranges : {&s.a, &s.b}) {
+        out += out.empty() ? "" : "x";
+        for (const Range &r : *ranges)
+            out += char('0' + (high ? r.hi : r.lo));
+    }
+    return out;
+}
+
 TEST(LayoutScreens, DigitsAreDrawnFromEachScreensRanges)
 {
-    struct Case
-    {
-        const char *screen;
-        const char *lowest, *highest;
-    };
-    const Case cases[] = {
-        {"grid21", "33x1", "99x9"},      {"grid22", "21x11", "99x59"},
-        {"grid31", "111x3", "599x9"},    {"grid32", "111x11", "599x59"},
-        {"italian21", "31x3", "99x9"},   {"italian22", "11x11", "99x99"},
-        {"italian31", "111x1", "999x9"}, {"italian32", "111x11", "999x99"},
-    };
-    for (const Case &c : cases) {
-        SCOPED_TRACE(c.screen);
-        const LayoutScreen &s = layoutScreen(c.screen);
+    for (const LayoutScreen &s : kLayoutScreens) {
+        SCOPED_TRACE(s.name);
         Driver d;
         d.platform.setStrictDraws(true);
-        d.open(c.screen);
+        d.open(s.name);
         for (std::size_t i = 0; i < s.a.size() + s.b.size(); ++i)
             d.platform.queueDraw(0.0);
         d.click("Command1");
-        EXPECT_EQ(d.caption("questionbox"), c.lowest);
+        EXPECT_EQ(d.caption("questionbox"), extreme(s, false));
         for (std::size_t i = 0; i < s.a.size() + s.b.size() + 1; ++i)
             d.platform.queueDraw(0.99999);
         d.click("Command13"); // back to the menu and in again for a second first question
-        d.open(c.screen);
+        d.open(s.name);
         d.click("Command1");
-        EXPECT_EQ(d.caption("questionbox"), c.highest);
+        EXPECT_EQ(d.caption("questionbox"), extreme(s, true));
     }
 }
 
@@ -98,8 +95,7 @@ TEST(LayoutScreens, InputGuardClearsUntidyTextWithoutPenalty)
         for (const Case &c : cases) {
             SCOPED_TRACE(std::string(s.name) + " " + c.typed);
             LayoutPupil p(s.name);
-            p.start(numberOf(std::vector<int>(s.a.size(), 3)),
-                    numberOf(std::vector<int>(s.b.size(), 3)));
+            p.start(p.aOf(3), p.bOf(3));
             const std::string box = p.focusName();
             const int index = p.focusIndex();
             p.d.type(box, c.typed, index);
@@ -117,8 +113,7 @@ TEST(LayoutScreens, AWrongEntryCostsTwoSecondsAndKeepsTheSameBox)
     for (const LayoutScreen &s : kLayoutScreens) {
         SCOPED_TRACE(s.name);
         LayoutPupil p(s.name);
-        p.start(numberOf(std::vector<int>(s.a.size(), 4)),
-                numberOf(std::vector<int>(s.b.size(), 3)));
+        p.start(p.aOf(4), p.bOf(3));
         int seconds = 0;
         while (!p.d.visible("Command10")) {
             const std::string box = p.focusName();
@@ -215,16 +210,15 @@ TEST(LayoutScreens, KeysThatFindNoBoxGoToTheWaitingOne)
     for (const LayoutScreen &s : kLayoutScreens) {
         SCOPED_TRACE(s.name);
         LayoutPupil p(s.name);
-        // Before START there is no box to type into: keys change nothing.
+        // Before START there is no box to type into and no clock: keys change nothing.
         p.d.open(s.name);
         p.d.screenKeys("5\r");
         EXPECT_EQ(p.d.caption("time"), "");
-        p.queue(numberOf(std::vector<int>(s.a.size(), 4)),
-                numberOf(std::vector<int>(s.b.size(), 3)));
+        EXPECT_FALSE(p.d.timerOn("Timer1"));
+        p.queue(p.aOf(4), p.bOf(3));
         p.d.click("Command1");
         const std::string first = p.focusId();
-        // The focus strayed (say onto EXIT): the keys still land in the waiting box, the guard
-        // included, and Enter checks it there.
+        // The focus strayed onto EXIT: keys still land in the waiting box, guard and Enter too.
         p.d.front().setFocus("Command13");
         p.d.screenKeys("07");
         EXPECT_EQ(p.focusId(), first);
@@ -235,26 +229,13 @@ TEST(LayoutScreens, KeysThatFindNoBoxGoToTheWaitingOne)
         EXPECT_EQ(p.d.platform.beeps, 1);
         EXPECT_NE(p.focusId(), first);
         EXPECT_EQ(p.d.caption("time"), "0");
-        // Between questions NEXT keeps the focus and stray keys do nothing.
+        p.d.tick("Timer1", 3);
+        EXPECT_EQ(p.d.caption("time"), "3");
+        // Between questions NEXT keeps the focus and stray keys do nothing; EXIT leaves.
         answerQuestion(p);
         p.d.screenKeys("12\r");
         EXPECT_EQ(p.focusName(), "Command10");
         EXPECT_EQ(p.d.caption("score"), "1");
-    }
-}
-
-TEST(LayoutScreens, TheClockRunsOnlyDuringARunAndExitLeavesAtAnyMoment)
-{
-    for (const LayoutScreen &s : kLayoutScreens) {
-        SCOPED_TRACE(s.name);
-        LayoutPupil p(s.name);
-        p.d.open(s.name);
-        EXPECT_FALSE(p.d.timerOn("Timer1"));
-        EXPECT_EQ(p.d.interval("Timer1"), 1000);
-        p.d.click("Command1");
-        p.d.tick("Timer1", 3);
-        EXPECT_EQ(p.d.caption("time"), "3");
-        p.enter(rightValue(p.d));
         p.d.click("Command13");
         EXPECT_EQ(p.d.frontName(), "mulmenu");
         EXPECT_FALSE(p.d.isOpen(s.name));

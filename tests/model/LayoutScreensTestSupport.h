@@ -1,8 +1,8 @@
 #pragma once
-// What the grid and lattice tests know about the eight screens: their digit ranges and best-time
-// slots, the draws that make a chosen question, and a pupil who fills the waiting box.
+// The eight grid and lattice screens' digit ranges and best-time slots, and a scripted pupil.
 #include "core/NumberText.h"
 #include "core/PupilProgress.h"
+#include "layouts/LayoutStep.h"
 #include "support/Driver.h"
 
 #include <gtest/gtest.h>
@@ -61,12 +61,6 @@ inline double drawFor(int d, Range r)
     return (d - r.lo + 0.5) / (r.hi - r.lo + 1);
 }
 
-// "name" or "name(index)", as automation names a control.
-inline std::string boxId(const std::string &name, int index)
-{
-    return index < 0 ? name : name + "(" + std::to_string(index) + ")";
-}
-
 // One entry of a script such as "question(1)=50 answerbox=456".
 struct ScriptEntry
 {
@@ -113,10 +107,17 @@ struct LayoutPupil
         queue(a, b);
         d.click("Command1");
     }
+    // A and B with every digit equal to `digit`.
+    int aOf(int digit) { return numberOf(std::vector<int>(s.a.size(), digit)); }
+    int bOf(int digit) { return numberOf(std::vector<int>(s.b.size(), digit)); }
     // The box waiting for an entry, as the focus shows it.
     std::string focusName() { return d.front().focusName(); }
     int focusIndex() { return d.front().focusIndex(); }
-    std::string focusId() { return boxId(focusName(), focusIndex()); }
+    std::string focusId()
+    {
+        return focusIndex() < 0 ? focusName()
+                                : focusName() + "(" + std::to_string(focusIndex()) + ")";
+    }
     // Types `value` into the waiting box and presses Enter.
     void enter(int value) { d.typeEnter(focusName(), numberText(value), focusIndex()); }
     // The text boxes now enabled, as "name(index)".

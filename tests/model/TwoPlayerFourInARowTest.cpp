@@ -1,5 +1,4 @@
-// Four in a row for two players through the screen: names, the menu's number modes, turns, wrong
-// cells that name the other player, PASS, and the ends of a game.
+// Four in a row for two players through the screen.
 #include "games/twoplayerfourinarow.h"
 #include "FourRowTestSupport.h"
 
