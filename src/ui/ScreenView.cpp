@@ -476,15 +476,27 @@ const Control *ScreenView::controlOf(const QWidget *widget) const
 
 bool ScreenView::screenKey(QKeyEvent *e)
 {
-    // A key held down counts once.
-    if (!screen_ || e->isAutoRepeat() || !app_.isLive(*screen_))
+    // A key held down counts once. Some X servers send a held key's repeats as a release and a
+    // press with the same time stamp instead of marking them as repeats.
+    const bool repeat =
+        e->isAutoRepeat() || (lastReleaseKey_ == e->key() && lastReleaseTime_ == e->timestamp());
+    if (!screen_ || !app_.isLive(*screen_))
         return false;
+    if (repeat)
+        return keyCode(*e, true) != 0; // taken, and nothing happens
     const int code = keyCode(*e, true);
     if (code == 0)
         return false;
     app_.screenKey(*screen_, code);
     window_.afterEvent(false);
     return true;
+}
+
+void ScreenView::keyReleaseEvent(QKeyEvent *e)
+{
+    lastReleaseKey_ = e->key();
+    lastReleaseTime_ = e->timestamp();
+    QWidget::keyReleaseEvent(e);
 }
 
 void ScreenView::keyPressEvent(QKeyEvent *e)

@@ -74,6 +74,7 @@ protected:
     void paintEvent(QPaintEvent *) override;
     void resizeEvent(QResizeEvent *) override;
     void keyPressEvent(QKeyEvent *e) override;
+    void keyReleaseEvent(QKeyEvent *e) override;
 
 private:
     struct Bound
@@ -114,6 +115,9 @@ private:
     bool paused_ = false;
     bool applyingKey_ = false;
     bool syncing_ = false;
+    // The last key released and when: a press at that very moment is the key repeating.
+    int lastReleaseKey_ = 0;
+    quint64 lastReleaseTime_ = 0;
     std::string focusName_;
     int focusIndex_ = -1;
     bool focusDone_ = false;

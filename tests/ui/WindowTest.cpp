@@ -359,6 +359,17 @@ TEST_F(WindowTest, ScreenKeysPressesThroughMarksAndTextSetWithoutKeys)
     QKeyEvent held(QEvent::KeyPress, Qt::Key_A, {}, "a", true);
     QApplication::sendEvent(widget("add"), &held);
     EXPECT_EQ(p.screenKeys, (std::vector<int>{'a', 'L'})) << "held keys count once";
+    // A repeat sent as a release and a press at the same moment is a held key too.
+    const auto send = [&](QEvent::Type type, ulong time) {
+        QKeyEvent e(type, Qt::Key_A, {}, "a");
+        e.setTimestamp(time);
+        QApplication::sendEvent(widget("add"), &e);
+    };
+    send(QEvent::KeyRelease, 500);
+    send(QEvent::KeyPress, 500);
+    send(QEvent::KeyRelease, 540);
+    send(QEvent::KeyPress, 900);
+    EXPECT_EQ(p.screenKeys, (std::vector<int>{'a', 'L', 'a'}));
     EXPECT_EQ(p.ctl("answer").caption, "b");
 
     QWidget *mark = widget("mark");
