@@ -1,6 +1,4 @@
-// Short division: every question filled in as the screen asks gives the right answer with every
-// carried remainder, decimal digit and fraction right; drawn questions stay in range; what the
-// method writes on the page appears as the division goes on.
+// Short division: every question filled in as asked is right; drawn questions stay in range.
 #include "written/ShortDivision.h"
 #include "WrittenTestSupport.h"
 
@@ -23,9 +21,7 @@ void checkQuestion(int n, int d, DivisionEnding ending)
     const auto steps = shortDivisionSteps(n, d, ending);
     const Filled f(steps);
     const int digits[] = {n / 100, n / 10 % 10, n % 10, 0, 0};
-    // Each place: the remainder carried in front of the digit, with the digit, divided by d
-    // gives the answer digit and the remainder carried on; 0 is never carried, and nothing is
-    // written over a first digit that d does not go into.
+    // Each place: (carried * 10 + digit) / d gives the answer digit; 0 is never carried.
     EXPECT_EQ(f.has("Text13"), digits[0] >= d);
     long long answer = 0;
     int carried = 0;
@@ -68,8 +64,7 @@ TEST(ShortDivision, EveryQuestionFilledInAsAskedIsRight)
             }
 }
 
-// Draws from both ends and the middle of every range: a three-digit number, a divisor 2 to 9,
-// never a whole answer, and on the decimals screen an end within two places.
+// Draws from both ends and the middle of every range.
 TEST(ShortDivision, DrawnQuestionsStayInRange)
 {
     for (const char *screen : {"div1into3withremsum", "div1into3dec", "div1into3frac"})

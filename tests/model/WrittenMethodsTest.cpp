@@ -1,6 +1,4 @@
-// The seven further written-method screens share the written frame: the best time announced on
-// opening, five questions, the closing best-time check on each screen's own slot, Yes to start
-// afresh and Exit or No back to the menu that opened it.
+// The written-method screens' shared frame: best times on each screen's own slot, Yes and No.
 #include "WrittenTestSupport.h"
 
 namespace nb::test {
