@@ -76,9 +76,7 @@ TEST(AnswerBox, RandomQuestionsAnsweredInAnyOrder)
 TEST(AnswerBox, MarkingRules)
 {
     Driver d;
-    d.open("ADD333b");
-    queueDraws(d, columnDraws({123, 204, 311})); // 638
-    d.click("Command11");
+    start(d, "ADD333b", {123, 204, 311}); // 638
     EXPECT_EQ(d.front().focusName() + d.caption("text17"), "Text11Write the answer, then CHECK.");
     // Enter after the units alone marks nothing; a second digit replaces the first.
     d.typeEnter("Text11", "8");
@@ -247,18 +245,16 @@ TEST(AnswerBox, TheCursorMovesLeftAsDigitsAreWritten)
 
 TEST(AnswerBox, TheBottomNumberHasNoZerosInFront)
 {
-    struct Case
-    {
-        int top, bottom;
-        const char *shown; // hundreds|tens|units
-    };
-    for (const Case &c : {Case{512, 81, "|8|1"}, Case{512, 7, "||7"}, Case{512, 100, "1|0|0"},
-                          Case{905, 30, "|3|0"}, Case{905, 804, "8|0|4"}}) {
+    const std::tuple<int, int, const char *> cases[] = {{512, 81, "|8|1"},
+                                                        {512, 7, "||7"},
+                                                        {512, 100, "1|0|0"},
+                                                        {905, 30, "|3|0"},
+                                                        {905, 804, "8|0|4"}};
+    for (const auto &[top, bottom, shown] : cases) { // hundreds|tens|units
         Driver d;
-        start(d, "sub33b", {c.top, c.bottom});
-        EXPECT_EQ(d.caption("text10") + "|" + d.caption("text4") + "|" + d.caption("text2"),
-                  c.shown)
-            << c.top << " - " << c.bottom;
+        start(d, "sub33b", {top, bottom});
+        EXPECT_EQ(d.caption("text10") + "|" + d.caption("text4") + "|" + d.caption("text2"), shown)
+            << top << " - " << bottom;
     }
 }
 

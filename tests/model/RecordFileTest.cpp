@@ -38,6 +38,11 @@ class RecordFile : public ::testing::Test
 protected:
     void SetUp() override { dir = emptyTestFolder(); }
     void TearDown() override { fs::remove_all(dir); }
+    void emptyFolder()
+    {
+        fs::remove_all(dir);
+        fs::create_directories(dir);
+    }
 
     record::WriteOutcome write(const std::string &bytes, WriteMode mode,
                                const std::string &name = "tom.DAT")
@@ -76,10 +81,8 @@ TEST_F(RecordFile, EveryFailingStepKeepsTheOldRecordAndLeavesNothingBehind)
     };
     const std::string old = theirs + std::string(200000, 't'); // a tail to copy
     for (const auto &c : cases) {
-        SCOPED_TRACE(std::to_string(int(c.step)) + " fails" +
-                     (c.mode == WriteMode::Replace ? " writing back" : " saving anew"));
-        fs::remove_all(dir);
-        fs::create_directories(dir);
+        SCOPED_TRACE(&c - cases);
+        emptyFolder();
         spit(dir / (c.mode == WriteMode::Replace ? "tom.DAT" : "ann.DAT"), old);
         const auto before = entries(dir);
         FaultyFileCalls calls;
@@ -112,11 +115,8 @@ TEST_F(RecordFile, NewRecordsArriveWholeOrNotAtAllWhateverTheFileSystem)
                  {0, false, false, true}};
     for (const auto &c : cases)
         for (const bool clash : {false, true}) {
-            SCOPED_TRACE(std::to_string(c.writeLimit) + (c.noRenameNoReplace ? " no-rename" : "") +
-                         (c.noLink ? " no-link" : "") + (c.noFsync ? " no-fsync" : "") +
-                         (clash ? " clash" : ""));
-            fs::remove_all(dir);
-            fs::create_directories(dir);
+            SCOPED_TRACE(::testing::Message() << "case " << &c - cases << (clash ? " clash" : ""));
+            emptyFolder();
             FaultyFileCalls calls;
             calls.writeLimit = c.writeLimit;
             calls.noRenameNoReplace = c.noRenameNoReplace;
