@@ -1,5 +1,4 @@
-// Long multiplication: every question filled in as the screen asks gives both rows and the total
-// with every carry and the placeholder zero right; a pupil's question with wrong entries.
+// Long multiplication: every question filled in as asked is right; a pupil's slips.
 #include "written/LongMultiplication.h"
 #include "WrittenTestSupport.h"
 #include "core/Random.h"
@@ -20,9 +19,7 @@ std::vector<int> digitsOf(int n)
     return d;
 }
 
-// One row of boxes: the number it shows (no gaps, no leading zero), and for each column the work
-// done plus the carry in equals the digit plus ten times what goes out (the next carry box, or
-// past the last column worked, the next digit).
+// A row's number (no gaps, no leading zero); per column, work + carry in = digit + 10 * carry out.
 int checkRow(const Filled &f, int row, int carryRow, const std::vector<int> &work, int shift)
 {
     int n = 0, top = -1;
@@ -69,7 +66,6 @@ void checkQuestion(int a, int b)
     }
 }
 
-// Every question of the two-digit screen and a large random sample of the three-digit one.
 TEST(LongMultiplication, EveryQuestionFilledInAsAskedIsRight)
 {
     for (int a = 10; a <= 99; ++a)

@@ -1,7 +1,4 @@
-// The record file layer on a real disk: every step of a save failing, writes cut short, file
-// systems without one-step exclusive renames or hard links, two programs saving one name at once,
-// named pipes, links, long names, read-only records, reading only as far as the record goes, and
-// the clean-up of saves that were cut short.
+// The record file layer on a real disk, with failing calls and awkward file systems.
 #include "shell/record/RecordFile.h"
 #include "model/RecordFileSupport.h"
 
@@ -41,6 +38,11 @@ class RecordFile : public ::testing::Test
 protected:
     void SetUp() override { dir = emptyTestFolder(); }
     void TearDown() override { fs::remove_all(dir); }
+    void emptyFolder()
+    {
+        fs::remove_all(dir);
+        fs::create_directories(dir);
+    }
 
     record::WriteOutcome write(const std::string &bytes, WriteMode mode,
                                const std::string &name = "tom.DAT")
@@ -53,7 +55,6 @@ protected:
     const std::string theirs = recordOf("Tom Brown", 40);
 };
 
-// Each step failing in turn: the save says why, the old record is as it was and nothing is left.
 TEST_F(RecordFile, EveryFailingStepKeepsTheOldRecordAndLeavesNothingBehind)
 {
     const struct
@@ -80,10 +81,8 @@ TEST_F(RecordFile, EveryFailingStepKeepsTheOldRecordAndLeavesNothingBehind)
     };
     const std::string old = theirs + std::string(200000, 't'); // a tail to copy
     for (const auto &c : cases) {
-        SCOPED_TRACE(std::to_string(int(c.step)) + " fails" +
-                     (c.mode == WriteMode::Replace ? " writing back" : " saving anew"));
-        fs::remove_all(dir);
-        fs::create_directories(dir);
+        SCOPED_TRACE(&c - cases);
+        emptyFolder();
         spit(dir / (c.mode == WriteMode::Replace ? "tom.DAT" : "ann.DAT"), old);
         const auto before = entries(dir);
         FaultyFileCalls calls;
@@ -100,9 +99,7 @@ TEST_F(RecordFile, EveryFailingStepKeepsTheOldRecordAndLeavesNothingBehind)
     }
 }
 
-// Writes that take a few bytes at a time, and file systems that cannot rename without replacing,
-// make hard links or flush: the record arrives whole, and a name another program takes at the same
-// moment is never written over.
+// Short writes, no exclusive rename, no hard links, no flush: whole records, no overwrites.
 TEST_F(RecordFile, NewRecordsArriveWholeOrNotAtAllWhateverTheFileSystem)
 {
     const struct
@@ -118,11 +115,8 @@ TEST_F(RecordFile, NewRecordsArriveWholeOrNotAtAllWhateverTheFileSystem)
                  {0, false, false, true}};
     for (const auto &c : cases)
         for (const bool clash : {false, true}) {
-            SCOPED_TRACE(std::to_string(c.writeLimit) + (c.noRenameNoReplace ? " no-rename" : "") +
-                         (c.noLink ? " no-link" : "") + (c.noFsync ? " no-fsync" : "") +
-                         (clash ? " clash" : ""));
-            fs::remove_all(dir);
-            fs::create_directories(dir);
+            SCOPED_TRACE(::testing::Message() << "case " << &c - cases << (clash ? " clash" : ""));
+            emptyFolder();
             FaultyFileCalls calls;
             calls.writeLimit = c.writeLimit;
             calls.noRenameNoReplace = c.noRenameNoReplace;
@@ -145,8 +139,6 @@ TEST_F(RecordFile, NewRecordsArriveWholeOrNotAtAllWhateverTheFileSystem)
         }
 }
 
-// Two programs saving new records under one name at the same moment, for real, with each way the
-// name can be claimed: exactly one wins, and the file holds the winner's record whole.
 TEST_F(RecordFile, TwoProgramsSavingOneNameAtOnceNeverLoseARecord)
 {
     for (const int fallback : {0, 1, 2}) {
@@ -176,8 +168,6 @@ TEST_F(RecordFile, TwoProgramsSavingOneNameAtOnceNeverLoseARecord)
     }
 }
 
-// Writing back over what may be at the name: the old tail, mode and links are kept; a folder, a
-// named pipe, a broken link or a read-only record is left exactly as it was.
 TEST_F(RecordFile, WritingBackKeepsWhatIsThereOrLeavesItAlone)
 {
     const std::string tail = std::string(3000, 'x');
@@ -236,7 +226,6 @@ TEST_F(RecordFile, WritingBackKeepsWhatIsThereOrLeavesItAlone)
         EXPECT_EQ(write(mine, WriteMode::NewFile, name).result, Result::NameTaken) << name;
 }
 
-// Reading goes no further than the record, whatever follows it; a pipe is refused, not waited on.
 TEST_F(RecordFile, ReadingStopsAtTheEndOfTheRecord)
 {
     spit(dir / "long.DAT", mine + std::string(6 << 20, '\xFF'));
@@ -250,7 +239,6 @@ TEST_F(RecordFile, ReadingStopsAtTheEndOfTheRecord)
     EXPECT_EQ(record::readRecordFile(dir / "pipe.DAT").problem, "it is not an ordinary file");
 }
 
-// Only this program's temporary files are cleared, and only when their save is over for certain.
 TEST_F(RecordFile, StaleTemporaryFilesOfCutShortSavesAreCleared)
 {
     const auto now = fs::file_time_type::clock::now();

@@ -1,5 +1,4 @@
-// The search board on its own: which cells touch, what a pair makes, and that every target the
-// board offers has a pair that makes it, on many boards of every level and operation.
+// The search board on its own: neighbours, what a pair makes, and a pair for every target.
 #include "puzzles/SearchBoard.h"
 #include "core/Random.h"
 

@@ -1,5 +1,4 @@
-// The search puzzles driven as pupils would: clicks on the board, the clock's ticks, the level
-// rules of the one-pupil search and the turns and names of the two-pupil search.
+// The search puzzles for one pupil and for two, driven by clicks and the clock.
 #include "puzzles/SearchFrame.h"
 #include "support/Driver.h"
 
@@ -19,28 +18,18 @@ void open(Driver &d, int caller, const std::string &screen = "search")
     d.progress().SearchCaller = Value::int16(std::int16_t(caller));
     d.open(screen);
 }
-// A pair that makes the target (cells counted from 0).
-std::pair<int, int> answer(Driver &d)
-{
-    const SearchFrame &s = frame(d);
-    for (int a = 0; a < SearchBoard::kCells; ++a)
-        for (int b = a + 1; b < SearchBoard::kCells; ++b)
-            if (s.board().isAnswer(a, b, s.target()))
-                return {a, b};
-    ADD_FAILURE() << "no pair makes " << s.target();
-    return {0, 1};
-}
-// Two neighbours, neither found, that do not make the target.
-std::pair<int, int> wrongPair(Driver &d)
+// A pair that makes the target, or two open neighbours that do not (cells counted from 0).
+std::pair<int, int> pair(Driver &d, bool right = true)
 {
     const SearchFrame &s = frame(d);
     const SearchBoard &board = s.board();
     for (int a = 0; a < SearchBoard::kCells; ++a)
         for (int b = a + 1; b < SearchBoard::kCells; ++b)
-            if (SearchBoard::neighbours(a, b) && !board.found(a) && !board.found(b) &&
-                board.makes(a, b) != s.target())
+            if (right ? board.isAnswer(a, b, s.target())
+                      : SearchBoard::neighbours(a, b) && !board.found(a) && !board.found(b) &&
+                            board.makes(a, b) != s.target())
                 return {a, b};
-    ADD_FAILURE() << "every pair makes the target";
+    ADD_FAILURE() << "no such pair for " << s.target();
     return {0, 1};
 }
 // A press in the middle of a cell of the board (cells counted from 0).
@@ -70,7 +59,7 @@ void clickPair(Driver &d, std::pair<int, int> p)
 void findPairs(Driver &d, int n)
 {
     for (int i = 0; i < n; ++i)
-        clickPair(d, answer(d));
+        clickPair(d, pair(d));
 }
 
 TEST(SearchScreen, ClicksPairCellsAndOnlyARightPairOfNeighboursScores)
@@ -84,7 +73,7 @@ TEST(SearchScreen, ClicksPairCellsAndOnlyARightPairOfNeighboursScores)
     EXPECT_EQ(d.caption("target"), SearchFrame::targetText(frame(d).target()));
     EXPECT_EQ(d.caption("rule"), "Add the two numbers together.");
 
-    const auto [a, b] = answer(d);
+    const auto [a, b] = pair(d);
     press(d, a); // the same cell twice takes the choice back
     press(d, a);
     EXPECT_EQ(frame(d).selected(), -1);
@@ -97,7 +86,7 @@ TEST(SearchScreen, ClicksPairCellsAndOnlyARightPairOfNeighboursScores)
     EXPECT_EQ(frame(d).selected(), far);
     press(d, far);
 
-    const auto wrong = wrongPair(d);
+    const auto wrong = pair(d, false);
     clickPair(d, wrong);
     EXPECT_EQ(frame(d).selected(), -1);
     EXPECT_EQ(d.caption("score"), "0");
@@ -130,12 +119,14 @@ TEST(SearchScreen, APressAnywhereOnACellOrTheGapBesideItChoosesThatCell)
             for (double dy : {-460.0, 0.0, 460.0})
                 ASSERT_EQ(SearchFrame::cellAt(x + dx, y + dy), cell) << dx << ", " << dy;
     }
-    struct Off
-    {
-        double x, y;
-    } offs[] = {{0, 0}, {10, 500}, {500, 10}, {7465, 500}, {500, 7465}, {-1, -1}, {1e9, 1e9}};
-    for (const Off &o : offs)
-        EXPECT_EQ(SearchFrame::cellAt(o.x, o.y), -1) << o.x << ", " << o.y;
+    for (auto [x, y] : {std::pair{0.0, 0.0},
+                        {10.0, 500.0},
+                        {500.0, 10.0},
+                        {7465.0, 500.0},
+                        {500.0, 7465.0},
+                        {-1.0, -1.0},
+                        {1e9, 1e9}})
+        EXPECT_EQ(SearchFrame::cellAt(x, y), -1) << x << ", " << y;
 }
 
 TEST(SearchScreen, TenFindsPassTheLevelAndTheHighestLevelIsKept)
@@ -167,7 +158,6 @@ TEST(SearchScreen, TenFindsPassTheLevelAndTheHighestLevelIsKept)
         EXPECT_EQ(d.caption("level"), "2");
         EXPECT_EQ(d.caption("score"), "0");
         EXPECT_EQ(d.caption("time"), "120");
-        // Running out of time at level 2 keeps level 1; No returns to the caller's menu.
         findPairs(d, 3);
         d.platform.queueNo();
         d.tick("Timer1", 120);
@@ -195,7 +185,7 @@ TEST(SearchScreen, StoredLevelIsOfferedAndALowerPassDoesNotLowerIt)
     EXPECT_EQ(d.progress().SearchBest3.number(), 3);
     EXPECT_EQ(d.frontName(), "mulmenu");
 
-    // At the top level the offer stays at the top level and passing it offers another go there.
+    // At the top level the offer stays there.
     Driver top;
     top.progress().SearchCaller = Value::int16(2);
     top.progress().SearchBest2 = Value::int16(5);
@@ -209,7 +199,7 @@ TEST(SearchScreen, WhenTheClockStopsTheChoiceIsDroppedAndAnotherGoStartsAfresh)
     Driver d;
     open(d, 4);
     d.click("start");
-    const auto [a, b] = answer(d);
+    const auto [a, b] = pair(d);
     press(d, a);
     d.tick("Timer1", 119);
     EXPECT_EQ(d.caption("time"), "1");
@@ -255,6 +245,13 @@ TEST(SearchForTwo, NamesMustBeShorterThanFifteenLetters)
     EXPECT_EQ(d.caption("p2"), "Maximilianaaaa");
     EXPECT_TRUE(dynamic_cast<const SearchFrame &>(d.front()).running());
     EXPECT_EQ(d.caption("text1"), "Zoë Ångström, it is your turn.");
+
+    Driver e; // Exit while names are asked for
+    open(e, 3, "search2");
+    e.click("start");
+    e.type("player1", "Ann");
+    e.click("exit");
+    EXPECT_EQ(e.frontName(), "pairmenu");
 }
 
 TEST(SearchForTwo, TurnsPassAndEachFindScoresForTheFinder)
@@ -266,12 +263,12 @@ TEST(SearchForTwo, TurnsPassAndEachFindScoresForTheFinder)
     findPairs(d, 1); // Ann finds
     EXPECT_EQ(d.caption("p1score"), "1");
     EXPECT_EQ(d.caption("text1"), "Bob, it is your turn.");
-    clickPair(d, wrongPair(d)); // Bob misses: Ann's turn
+    clickPair(d, pair(d, false)); // Bob misses: Ann's turn
     EXPECT_EQ(d.caption("p2score"), "0");
     EXPECT_EQ(d.caption("text1"), "Ann, it is your turn.");
     d.tick("Timer1", 19);
     EXPECT_EQ(d.caption("turntime"), "1");
-    press(d, answer(d).first);
+    press(d, pair(d).first);
     d.tick("Timer1"); // Ann's turn ran out, and her choice goes with it
     EXPECT_EQ(d.caption("text1"), "Bob, it is your turn.");
     EXPECT_EQ(frame(d).selected(), -1);
@@ -299,7 +296,6 @@ TEST(SearchForTwo, AUsedUpBoardIsFollowedByFreshNumbersAndTargetsKeepComing)
         Driver d;
         open(d, caller, "search2");
         names(d, "Ann", "Bob");
-        // At most 32 pairs fit on one board, so 40 finds need a second one.
         for (int i = 0; i < 40; ++i) {
             ASSERT_FALSE(frame(d).board().openPairs().empty()) << caller << ": find " << i;
             findPairs(d, 1);
@@ -307,16 +303,6 @@ TEST(SearchForTwo, AUsedUpBoardIsFollowedByFreshNumbersAndTargetsKeepComing)
         EXPECT_EQ(std::stoi(d.caption("p1score")) + std::stoi(d.caption("p2score")), 40);
         EXPECT_LT(frame(d).board().foundPairs().size(), 32u);
     }
-}
-
-TEST(SearchForTwo, ExitDuringNamesReturnsToTheGamesMenu)
-{
-    Driver d;
-    open(d, 3, "search2");
-    d.click("start");
-    d.type("player1", "Ann");
-    d.click("exit");
-    EXPECT_EQ(d.frontName(), "pairmenu");
 }
 
 } // namespace

@@ -1,6 +1,4 @@
-// Short division: every question filled in as the screen asks gives the right answer with every
-// carried remainder, decimal digit and fraction right; drawn questions stay in range; what the
-// method writes on the page appears as the division goes on.
+// Short division: every question filled in as asked is right; drawn questions stay in range.
 #include "written/ShortDivision.h"
 #include "WrittenTestSupport.h"
 
@@ -23,9 +21,7 @@ void checkQuestion(int n, int d, DivisionEnding ending)
     const auto steps = shortDivisionSteps(n, d, ending);
     const Filled f(steps);
     const int digits[] = {n / 100, n / 10 % 10, n % 10, 0, 0};
-    // Each place: the remainder carried in front of the digit, with the digit, divided by d
-    // gives the answer digit and the remainder carried on; 0 is never carried, and nothing is
-    // written over a first digit that d does not go into.
+    // Each place: (carried * 10 + digit) / d gives the answer digit; 0 is never carried.
     EXPECT_EQ(f.has("Text13"), digits[0] >= d);
     long long answer = 0;
     int carried = 0;
@@ -68,28 +64,24 @@ TEST(ShortDivision, EveryQuestionFilledInAsAskedIsRight)
             }
 }
 
-// Draws from both ends and the middle of every range: a three-digit number, a divisor 2 to 9,
-// never a whole answer, and on the decimals screen an end within two places.
+// Draws from both ends and the middle of every range.
 TEST(ShortDivision, DrawnQuestionsStayInRange)
 {
-    for (const char *screen : {"div1into3withremsum", "div1into3dec", "div1into3frac"})
-        for (double r1 : {0.0, 0.5, 0.999999})
-            for (double r2 : {0.0, 0.5, 0.999999})
-                for (double r3 : {0.0, 0.5, 0.999999}) {
-                    Driver d;
-                    d.open(screen);
-                    d.platform.queueDraws({r1, r2, r3});
-                    d.click("Command11");
-                    const int n = int(
-                        readNumber(d.caption("text1") + d.caption("text3") + d.caption("Text5")));
-                    const int divisor = int(readNumber(d.caption("text2")));
-                    SCOPED_TRACE(std::string(screen) + " " + std::to_string(n) + " / " +
-                                 std::to_string(divisor));
-                    EXPECT_TRUE(n >= 100 && n <= 999 && divisor >= 2 && divisor <= 9);
-                    EXPECT_NE(n % divisor, 0);
-                    EXPECT_TRUE(screen != std::string("div1into3dec") ||
-                                endsInTwoPlaces(n, divisor));
-                }
+    const double ends[] = {0.0, 0.5, 0.999999};
+    for (const std::string screen : {"div1into3withremsum", "div1into3dec", "div1into3frac"})
+        for (int i = 0; i < 27; ++i) {
+            Driver d;
+            d.open(screen);
+            d.platform.queueDraws({ends[i / 9], ends[i / 3 % 3], ends[i % 3]});
+            d.click("Command11");
+            const int n =
+                int(readNumber(d.caption("text1") + d.caption("text3") + d.caption("Text5")));
+            const int divisor = int(readNumber(d.caption("text2")));
+            SCOPED_TRACE(screen + " " + std::to_string(n) + " / " + std::to_string(divisor));
+            EXPECT_TRUE(n >= 100 && n <= 999 && divisor >= 2 && divisor <= 9);
+            EXPECT_NE(n % divisor, 0);
+            EXPECT_TRUE(screen != "div1into3dec" || endsInTwoPlaces(n, divisor));
+        }
 }
 
 std::string shown(Driver &d, std::initializer_list<const char *> names)

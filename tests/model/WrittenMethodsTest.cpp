@@ -1,6 +1,4 @@
-// The seven further written-method screens share the written frame: the best time announced on
-// opening, five questions, the closing best-time check on each screen's own slot, Yes to start
-// afresh and Exit or No back to the menu that opened it.
+// The written-method screens' shared frame: best times on each screen's own slot, Yes and No.
 #include "WrittenTestSupport.h"
 
 namespace nb::test {
@@ -14,19 +12,14 @@ struct MethodCase
     std::vector<double> draws; // one question
     const char *digits;        // its hundreds, tens and units in answer boxes, else guided
 };
-void PrintTo(const MethodCase &c, std::ostream *os)
-{
-    *os << c.screen;
-}
 
 // 11 x 11, 100 x 11, and 101 / 2 (divisor 2, remainder 1, the lowest answer 50).
 const std::vector<double> kT22 = {drawFor(1, 1, 9), drawFor(1, 0, 10), 0.0, 0.0};
-const std::vector<double> kT32 = {0.0, 0.0, 0.0, 0.0, 0.0};
 const MethodCase kCases[] = {
     {"ADD333b", "addmenu", &PupilProgress::ColumnAddBest, columnDraws({100, 100, 100}), "300"},
     {"sub33b", "submenu", &PupilProgress::ColumnSubBest, columnDraws({555, 111}), "444"},
     {"t22", "mulmenu", &PupilProgress::Mul22Best, kT22, nullptr},
-    {"t32", "mulmenu", &PupilProgress::Mul32Best, kT32, nullptr},
+    {"t32", "mulmenu", &PupilProgress::Mul32Best, {0.0, 0.0, 0.0, 0.0, 0.0}, nullptr},
     {"div1into3withremsum", "divmenu", &PupilProgress::DivRemBest, {0.0, 0.0, 0.0}, nullptr},
     {"div1into3dec", "divmenu", &PupilProgress::DivDecBest, {0.0, 0.0, 0.0}, nullptr},
     {"div1into3frac", "divmenu", &PupilProgress::DivFracBest, {0.0, 0.0, 0.0}, nullptr},

@@ -1,6 +1,5 @@
 #pragma once
-// Shared by the tests of the written methods: the draws that make a screen set a chosen
-// question, and a pupil who fills in what a guided screen asks for.
+// Written-method tests: draws for a chosen question, and a pupil filling in a guided screen.
 #include "core/NumberText.h"
 #include "support/Driver.h"
 #include "written/GuidedSteps.h"
@@ -39,8 +38,7 @@ inline std::vector<double> columnDraws(std::vector<int> numbers)
     return out;
 }
 
-// The boxes of a guided question filled in the order asked, each with its right value; 0 for a
-// box never asked for.
+// A guided question's boxes with their right values; 0 for a box never asked for.
 struct Filled
 {
     explicit Filled(const std::vector<GuidedStep> &steps)
@@ -57,9 +55,8 @@ struct Filled
     std::map<std::string, int> boxes;
 };
 
-// Types the right value into the next `count` steps of the guided screen in front (all of them
-// by default); each must be the active, focused box with its prompt, and beep. Stops at the end
-// of the question.
+// Types the right value into the next `count` steps (default all); each must be the focused,
+// yellow box with its prompt, and beep.
 inline void fillSteps(Driver &d, std::size_t count = std::size_t(-1))
 {
     for (std::size_t i = 0; i < count; ++i) {

@@ -1,7 +1,6 @@
 #pragma once
-// A program screen in a real window, played as a pupil plays it: keys go to whatever has the
-// focus, and the focus must never rest on the button that leaves the screen. Boxes are answered
-// No and their texts kept.
+// A screen in a real window: keys go to the focus, which must never rest on the exit button.
+// Boxes are answered No and their texts kept.
 #include "core/App.h"
 #include "core/Screen.h"
 #include "shell/AllScreens.h"

@@ -1,5 +1,4 @@
-// The program's boxes: their look (font, sizes, a width that keeps short last words with their
-// line), how each way of closing them answers, and what screen readers are given.
+// The program's boxes: their look, each way of closing them, what screen readers get.
 #include "ui/ProgramBox.h"
 
 #include <QAccessible>

@@ -1,5 +1,4 @@
-// The puzzles in the window: once a round is under way, Enter pressed again and again (as
-// children do) never reaches EXIT and never ends the round.
+// The puzzles in the window: Enter pressed again and again never reaches EXIT.
 #include "PlayInWindow.h"
 
 namespace nb::ui {
@@ -10,30 +9,22 @@ class PuzzleKeys : public PlayInWindow
 
 TEST_P(PuzzleKeys, EnterAfterStartKeepsTheRoundGoing)
 {
-    open(GetParam(), "exit");
-    if (HasFatalFailure())
-        return;
+    ASSERT_NO_FATAL_FAILURE(open(GetParam(), "exit"));
     Screen *screen = app.front();
     for (int i = 0; i < 6; ++i) {
-        press(Qt::Key_Return);
-        if (HasFatalFailure())
-            return;
+        ASSERT_NO_FATAL_FAILURE(press(Qt::Key_Return));
         ASSERT_EQ(app.front(), screen) << "after " << i + 1 << " presses of Enter";
     }
 }
 
-// Perfection: Enter moves on from the square the pupil is in, also one clicked into by hand.
 TEST_F(PuzzleKeys, PerfectionEnterMovesOnFromAClickedSquare)
 {
-    open("perfection", "exit");
-    if (HasFatalFailure())
-        return;
+    ASSERT_NO_FATAL_FAILURE(open("perfection", "exit"));
     press(Qt::Key_Return); // START
     QWidget *first = focus();
     press(Qt::Key_Return);
     QWidget *second = focus();
     ASSERT_NE(second, first);
-    // Back to the first square by hand, then Enter: on to the second again.
     QTest::mouseClick(first, Qt::LeftButton);
     window.syncAll();
     ASSERT_EQ(focus(), first);

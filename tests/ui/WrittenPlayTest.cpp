@@ -1,7 +1,4 @@
-// The guided written-method screens played in the window as a pupil plays them: the keyboard
-// only, Enter after every entry and after every praise, wrong entries on the way. The focus must
-// always be where the next key belongs, never on Exit, and the closing question must come after
-// the fifth question.
+// The written-method screens played in the window from the keyboard, slips included.
 #include "PlayInWindow.h"
 #include "written/GuidedSteps.h"
 
@@ -17,6 +14,12 @@ protected:
             press(Qt::Key_0 + (c - '0'));
         press(Qt::Key_Return);
     }
+    void expectFinished(const Screen *screen)
+    {
+        ASSERT_EQ(boxes.size(), 1u) << "score " << screen->ctl("score").caption;
+        EXPECT_EQ(boxes[0].rfind("You completed 5 questions in ", 0), 0u) << boxes[0];
+        EXPECT_NE(app.front(), screen);
+    }
 };
 
 class AnswerBoxPlay : public WrittenPlay
@@ -24,9 +27,7 @@ class AnswerBoxPlay : public WrittenPlay
 
 TEST_P(WrittenPlay, FiveQuestionsFromTheKeyboardAlone)
 {
-    open(GetParam(), "Command22");
-    if (HasFatalFailure())
-        return;
+    ASSERT_NO_FATAL_FAILURE(open(GetParam(), "Command22"));
     auto *screen = dynamic_cast<const GuidedSteps *>(app.front());
     ASSERT_NE(screen, nullptr);
 
@@ -45,34 +46,25 @@ TEST_P(WrittenPlay, FiveQuestionsFromTheKeyboardAlone)
                 ASSERT_EQ(screen->currentStep(), 0u);
                 ASSERT_EQ(focus(), widget(step.box));
             }
-            type(std::to_string(step.value));
-            if (HasFatalFailure())
-                return;
+            ASSERT_NO_FATAL_FAILURE(type(std::to_string(step.value)));
         }
         if (question < 4) {
             ASSERT_EQ(focus(), widget("Command10"));
             press(Qt::Key_Return); // Next
         }
     }
-    ASSERT_EQ(boxes.size(), 1u);
-    EXPECT_EQ(boxes[0].rfind("You completed 5 questions in ", 0), 0u) << boxes[0];
-    EXPECT_NE(app.front(), screen);
+    expectFinished(screen);
 }
 
 INSTANTIATE_TEST_SUITE_P(Guided, WrittenPlay,
                          ::testing::Values("t22", "t32", "div1into3withremsum", "div1into3dec",
                                            "div1into3frac"));
 
-// The answer-box screens from the keyboard: the digits of the answer typed from the units upwards
-// (the cursor moves left by itself, a thousands digit is clicked into), then Enter.
 TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
 {
-    open(GetParam(), "Command22");
-    if (HasFatalFailure())
-        return;
+    ASSERT_NO_FATAL_FAILURE(open(GetParam(), "Command22"));
     Screen *screen = app.front();
     const bool adding = std::string(GetParam()) == "ADD333b";
-    // A number as its digit labels show it (an empty label in front of it reads as nothing).
     const auto number = [screen](std::initializer_list<const char *> labels) {
         int n = 0;
         for (const char *l : labels)
@@ -101,26 +93,18 @@ TEST_P(AnswerBoxPlay, FiveQuestionsFromTheKeyboard)
             click("Text14");
             press(Qt::Key_0 + answer / 1000);
         }
-        press(Qt::Key_Return);
-        if (HasFatalFailure())
-            return;
+        ASSERT_NO_FATAL_FAILURE(press(Qt::Key_Return));
         if (question < 4) {
             ASSERT_EQ(focus(), widget("Command10")) << answer;
             press(Qt::Key_Return); // Next
         }
     }
-    ASSERT_EQ(boxes.size(), 1u) << "score " << screen->ctl("score").caption;
-    EXPECT_EQ(boxes[0].rfind("You completed 5 questions in ", 0), 0u) << boxes[0];
-    EXPECT_NE(app.front(), screen);
+    expectFinished(screen);
 }
 
-// CHECK clicked with the mouse before the answer is complete: the cursor goes back to the box to
-// fill, so the next digit typed lands there and not on the button.
 TEST_P(AnswerBoxPlay, CheckClickedTooEarlySendsTheCursorBack)
 {
-    open(GetParam(), "Command22");
-    if (HasFatalFailure())
-        return;
+    ASSERT_NO_FATAL_FAILURE(open(GetParam(), "Command22"));
     press(Qt::Key_Return); // Start
     press(Qt::Key_1);
     ASSERT_EQ(focus(), widget("Text12"));
