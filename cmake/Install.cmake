@@ -8,6 +8,7 @@ set(NB_APP_ID org.numbrook.numbrook)
 set(NB_ICON_SIZES 16 22 24 32 48 64 128 256)
 
 install(TARGETS numbrook numbrook-class RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS numbrook_chime LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/numbrook)
 install(FILES ${NB_DESKTOP}/${NB_APP_ID}.desktop ${NB_DESKTOP}/${NB_APP_ID}_class.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 

@@ -4,6 +4,7 @@
 // (only where such a monitor exists, as with PulseAudio's null or real sinks). Prints 50th and 99th
 // percentiles. Without an audio device it measures the bell fallback's return time only.
 // Usage: bench_ui_beep [rounds]
+#include "chime/ChimePlayer.h"
 #include "ui/Look.h"
 #include "ui/QtPlatform.h"
 
@@ -105,7 +106,7 @@ int main(int argc, char *argv[])
     platform.setSoundOn(true);
     nb::ui::Sound &sound = platform.sound();
     sound.prepare();
-    nb::ui::ChimePlayer *player = sound.player();
+    auto *player = qobject_cast<nb::ui::ChimePlayer *>(sound.player());
 
     std::vector<double> returns, playing, firstSample;
     if (!player) {

@@ -1,12 +1,8 @@
 #include "ui/Sound.h"
 
 #include <QApplication>
-#include <QAudioSink>
-#include <QBuffer>
-#include <QFile>
-#include <QMediaDevices>
+#include <QLibrary>
 #include <QSettings>
-#include <QtEndian>
 
 #include <memory>
 
@@ -25,59 +21,28 @@ std::unique_ptr<QSettings> openSettings(const QString &file)
     return std::make_unique<QSettings>(file, QSettings::IniFormat);
 }
 
-// The program's own sounds are 16-bit PCM WAV files with a plain 44-byte header.
-bool readWav(const QString &path, QAudioFormat &format, QByteArray &samples)
+// The chime player lives in a library of its own, loaded on first use: linking the audio
+// libraries into the program would cost every start-up memory and time for a sound that may
+// never play. Looked for beside the program (a build tree), then where it is installed.
+using MakeChime = QObject *(*)(const char *, std::atomic<bool> *);
+
+MakeChime loadChimeLibrary()
 {
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray bytes = f.readAll();
-    if (bytes.size() <= 44 || !bytes.startsWith("RIFF") || bytes.mid(36, 4) != "data")
-        return false;
-    const char *h = bytes.constData();
-    if (qFromLittleEndian<quint16>(h + 20) != 1 || qFromLittleEndian<quint16>(h + 34) != 16)
-        return false;
-    format.setChannelCount(qFromLittleEndian<quint16>(h + 22));
-    format.setSampleRate(int(qFromLittleEndian<quint32>(h + 24)));
-    format.setSampleFormat(QAudioFormat::Int16);
-    samples = bytes.mid(44);
-    return true;
+    const QStringList places = {
+        QCoreApplication::applicationDirPath() + "/libnumbrook_chime.so",
+        QStringLiteral("libnumbrook_chime.so"), // already loaded by a program linked with it
+        QStringLiteral(NUMBROOK_CHIME_LIBRARY),
+    };
+    for (const QString &path : places) {
+        QLibrary library(path);
+        library.setLoadHints(QLibrary::PreventUnloadHint);
+        if (auto make = reinterpret_cast<MakeChime>(library.resolve("numbrook_make_chime")))
+            return make;
+    }
+    return nullptr;
 }
 
 } // namespace
-
-ChimePlayer::ChimePlayer(const QAudioDevice &device, const QAudioFormat &format, QByteArray samples,
-                         std::atomic<bool> &failed)
-    : device_(device)
-    , format_(format)
-    , samples_(std::move(samples))
-    , failed_(failed)
-{}
-
-ChimePlayer::~ChimePlayer() = default;
-
-void ChimePlayer::play()
-{
-    // A fresh stream for every chime (a stopped stream does not start again reliably); each one
-    // is removed once it has played to the end, so quick answers may overlap briefly.
-    auto *buffer = new QBuffer(this);
-    buffer->setData(samples_); // shared, not copied
-    buffer->open(QIODevice::ReadOnly);
-    auto *sink = new QAudioSink(device_, format_, this);
-    sink->setVolume(0.8);
-    connect(sink, &QAudioSink::stateChanged, this, [this, sink, buffer](QAudio::State state) {
-        if (state != QAudio::IdleState && state != QAudio::StoppedState)
-            return;
-        disconnect(sink, nullptr, this, nullptr);
-        sink->deleteLater();
-        buffer->deleteLater();
-    });
-    sink->start(buffer);
-    if (sink->error() == QAudio::OpenError || sink->error() == QAudio::FatalError)
-        failed_ = true;
-    else
-        emit started();
-}
 
 Sound::Sound(QString settingsFile)
     : settingsFile_(std::move(settingsFile))
@@ -103,12 +68,10 @@ void Sound::prepare()
     if (prepared_)
         return;
     prepared_ = true;
-    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-    QAudioFormat format;
-    QByteArray samples;
-    if (device.isNull() || !readWav(kChime, format, samples))
+    const MakeChime make = loadChimeLibrary();
+    player_ = make ? make(kChime, &failed_) : nullptr;
+    if (!player_)
         return;
-    player_ = new ChimePlayer(device, format, std::move(samples), failed_);
     player_->moveToThread(&audio_);
     audio_.start();
 }
@@ -123,7 +86,7 @@ void Sound::play()
         QApplication::beep();
         return;
     }
-    QMetaObject::invokeMethod(player_, &ChimePlayer::play, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(player_, "play", Qt::QueuedConnection);
 }
 
 void Sound::setOn(bool on)

@@ -2,8 +2,6 @@
 // The right-answer sound: a short chime compiled into the program, played through the audio
 // device without waiting for it, or the window system's bell when there is no audio device.
 // Whether it sounds at all is a choice kept in the user's settings between runs.
-#include <QAudioDevice>
-#include <QAudioFormat>
 #include <QObject>
 #include <QString>
 #include <QThread>
@@ -11,30 +9,6 @@
 #include <atomic>
 
 namespace nb::ui {
-
-// Plays one PCM sound from the start each time it is asked.
-// Lives on the audio thread: opening a stream on the audio server can take milliseconds.
-class ChimePlayer : public QObject
-{
-    Q_OBJECT
-public:
-    ChimePlayer(const QAudioDevice &device, const QAudioFormat &format, QByteArray samples,
-                std::atomic<bool> &failed);
-    ~ChimePlayer() override;
-
-public slots:
-    void play();
-
-signals:
-    // The stream has been handed its first samples (measured by the benchmark).
-    void started();
-
-private:
-    QAudioDevice device_;
-    QAudioFormat format_;
-    QByteArray samples_;
-    std::atomic<bool> &failed_;
-};
 
 class Sound
 {
@@ -55,16 +29,16 @@ public:
     // Remembers the choice; a settings folder that cannot be written only loses the memory.
     void setOn(bool on);
 
-    // For measurements: the player once prepared (it lives on the audio thread), or null when
-    // the bell is used.
-    ChimePlayer *player() const { return player_; }
+    // For measurements: the player once prepared (a ChimePlayer living on the audio thread), or
+    // null when the bell is used.
+    QObject *player() const { return player_; }
 
 private:
     QString settingsFile_;
     bool on_ = true;
     bool prepared_ = false;
     QThread audio_;
-    ChimePlayer *player_ = nullptr;
+    QObject *player_ = nullptr;
     std::atomic<bool> failed_{false};
 };
 
