@@ -23,7 +23,8 @@ std::unique_ptr<QSettings> openSettings(const QString &file)
 
 // The chime player lives in a library of its own, loaded on first use: linking the audio
 // libraries into the program would cost every start-up memory and time for a sound that may
-// never play. Looked for beside the program (a build tree), then where it is installed.
+// never play. Looked for beside the program (a build tree), then where it is installed, which is
+// given relative to the program.
 using MakeChime = QObject *(*)(const char *, std::atomic<bool> *);
 
 MakeChime loadChimeLibrary()
@@ -31,7 +32,7 @@ MakeChime loadChimeLibrary()
     const QStringList places = {
         QCoreApplication::applicationDirPath() + "/libnumbrook_chime.so",
         QStringLiteral("libnumbrook_chime.so"), // already loaded by a program linked with it
-        QStringLiteral(NUMBROOK_CHIME_LIBRARY),
+        QCoreApplication::applicationDirPath() + "/" + QStringLiteral(NUMBROOK_CHIME_LIBRARY),
     };
     for (const QString &path : places) {
         QLibrary library(path);
