@@ -3,6 +3,7 @@
 #include "activity/AnswerBoxFilter.h"
 #include "activity/BestTimeCheck.h"
 #include "activity/PraiseList.h"
+#include "activity/RunPanel.h"
 #include "core/Input.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
@@ -40,37 +41,8 @@ LayoutFrame::LayoutFrame(App &app, Value PupilProgress::*best, Sizes sizes, Clea
     prompt.foreColor = kPromptInk;
     prompt.align = Align::Center;
 
-    const auto panelLabel = [this](const char *name, const char *text, int top) {
-        Control &c = label(name, text, kPanelLeft, top, 1500, 700);
-        c.font.points = 20;
-        c.font.bold = true;
-        c.foreColor = kInk;
-    };
-    const auto panelValue = [this](const char *name, int top) {
-        Control &c = label(name, "", kPanelLeft + 1500, top - 100, 1800, 850);
-        c.font.points = 28;
-        c.font.bold = true;
-        c.align = Align::Center;
-        c.border = true;
-        c.backColor = colors::white;
-        c.foreColor = kInk;
-    };
-    panelLabel("timelabel", "Time", 700);
-    panelValue("time", 700);
-    panelLabel("scorelabel", "Score", 1800);
-    panelValue("score", 1800);
-
-    const auto panelButton = [this](const char *name, const char *text, int top,
-                                    std::uint32_t colour) -> Control & {
-        Control &b = button(name, text, kPanelLeft, top, kPanelWidth, 900);
-        b.font.points = 20;
-        b.font.bold = true;
-        b.backColor = colour;
-        return b;
-    };
-    panelButton("Command1", "START", 3300, rgb(140, 220, 140));
-    panelButton("Command10", "NEXT", 4500, rgb(255, 210, 90)).visible = false;
-    panelButton("Command13", "EXIT", 7600, rgb(200, 200, 230));
+    addRunPanel(*this, {kPanelLeft, kPanelWidth, 1500, kInk, "Command1", "START", "Command10",
+                        "NEXT", "Command13", "EXIT"});
 
     timer("Timer1", 1000);
 }

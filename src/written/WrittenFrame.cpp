@@ -4,6 +4,7 @@
 #include "activity/Ask.h"
 #include "activity/BestTimeCheck.h"
 #include "activity/PraiseList.h"
+#include "activity/RunPanel.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
 
@@ -55,37 +56,8 @@ WrittenFrame::WrittenFrame(App &app, Value PupilProgress::*best, std::string men
     prompt.foreColor = kPromptInk;
     prompt.align = Align::Center;
 
-    const auto panelLabel = [this](const char *name, const char *text, int top) {
-        Control &c = label(name, text, kPanelLeft, top, 1500, 700);
-        c.font.points = 20;
-        c.font.bold = true;
-        c.foreColor = kInk;
-    };
-    const auto panelValue = [this](const char *name, int top) {
-        Control &c = label(name, "", kPanelLeft + 1600, top - 100, 1800, 850);
-        c.font.points = 28;
-        c.font.bold = true;
-        c.align = Align::Center;
-        c.border = true;
-        c.backColor = colors::white;
-        c.foreColor = kInk;
-    };
-    panelLabel("timelabel", "Time", 700);
-    panelValue("time", 700);
-    panelLabel("scorelabel", "Score", 1800);
-    panelValue("score", 1800);
-
-    const auto panelButton = [this](const char *name, const char *text, int top,
-                                    std::uint32_t colour) -> Control & {
-        Control &b = button(name, text, kPanelLeft, top, kPanelWidth, 900);
-        b.font.points = 20;
-        b.font.bold = true;
-        b.backColor = colour;
-        return b;
-    };
-    panelButton("Command11", "Start", 3300, rgb(140, 220, 140));
-    panelButton("Command10", "Next", 4500, rgb(255, 210, 90)).visible = false;
-    panelButton("Command22", "Exit", 7600, rgb(200, 200, 230));
+    addRunPanel(*this, {kPanelLeft, kPanelWidth, 1600, kInk, "Command11", "Start", "Command10",
+                        "Next", "Command22", "Exit"});
 
     timer("Timer1", 1000);
 }
